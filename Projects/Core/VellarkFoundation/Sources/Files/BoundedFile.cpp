@@ -1,0 +1,34 @@
+#include <VellarkFoundation/Files/BoundedFile.hpp>
+#include <VellarkFoundation/Files/FileDescriptor.hpp>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <cerrno>
+
+namespace vellark::BoundedFile {
+
+std::optional<std::string> read(const std::string& path, std::size_t maximumBytes) {
+    const FileDescriptor file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    if (!file.isOpen()) return std::nullopt;
+    struct stat status {};
+    if (::fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode)) return std::nullopt;
+    if (static_cast<std::size_t>(status.st_size) > maximumBytes) return std::nullopt;
+
+    // One byte more than the file's size: the read that fills the content also finds its end.
+    std::string content(static_cast<std::size_t>(status.st_size) + 1, '\0');
+    std::size_t length = 0;
+    while (true) {
+        if (length == content.size()) content.resize(2 * content.size());
+        const ssize_t count = ::read(file.get(), content.data() + length, content.size() - length);
+        if (count < 0 && errno == EINTR) continue;
+        if (count < 0) return std::nullopt;
+        if (count == 0) break;
+        length += static_cast<std::size_t>(count);
+        if (length > maximumBytes) return std::nullopt;
+    }
+    content.resize(length);
+    return content;
+}
+
+}  // namespace vellark::BoundedFile

@@ -1,0 +1,5 @@
+#include <VellarkCapture/CaptureHelperMain.hpp>
+
+int main(int argumentCount, char** arguments) {
+    return vellark::CaptureHelperMain::main(argumentCount, arguments);
+}
