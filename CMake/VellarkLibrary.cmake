@@ -15,7 +15,9 @@ function(vellark_configure_target target)
     set_target_properties(${target} PROPERTIES CXX_EXTENSIONS OFF)
     target_compile_options(${target} PRIVATE -ffunction-sections -fdata-sections)
     if(VELLARK_DEVELOPER)
-        target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+        # Designated initialisers leave fields out on purpose: what is not named has its default.
+        target_compile_options(${target} PRIVATE
+            -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror -Wno-missing-field-initializers)
     endif()
     if(VELLARK_SANITIZERS)
         target_compile_options(${target} PRIVATE -fsanitize=${VELLARK_SANITIZERS} -fno-sanitize-recover=all)

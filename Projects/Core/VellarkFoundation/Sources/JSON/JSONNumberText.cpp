@@ -1,5 +1,6 @@
 #include <VellarkFoundation/JSON/JSONNumberText.hpp>
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -53,11 +54,61 @@ std::string plain(const ShortestDigits& shortest) {
     return digits.insert(wholeCount, ".");
 }
 
+/// A literal's digits without point and closing zeros, and the power of ten that they count.
+struct Scaled {
+    std::string digits;
+    std::int64_t exponent = 0;
+};
+
+std::int64_t writtenExponent(std::string_view text) {
+    constexpr std::int64_t farAway = 1'000'000'000'000;  // beyond the digits of any text
+    if (text.starts_with('+')) text.remove_prefix(1);
+    std::int64_t value = 0;
+    const auto parsed = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (parsed.ec != std::errc()) return text.starts_with('-') ? -farAway : farAway;
+    return std::clamp(value, -farAway, farAway);
+}
+
+Scaled scaled(std::string_view unsignedLiteral) {
+    const std::size_t mark = std::min(unsignedLiteral.find_first_of("eE"), unsignedLiteral.size());
+    const std::string_view mantissa = unsignedLiteral.substr(0, mark);
+    const std::size_t point = std::min(mantissa.find('.'), mantissa.size());
+    Scaled result;
+    result.digits = mantissa.substr(0, point);
+    if (point < mantissa.size()) result.digits += mantissa.substr(point + 1);
+    result.exponent = static_cast<std::int64_t>(point) - static_cast<std::int64_t>(result.digits.size());
+    if (mark < unsignedLiteral.size()) result.exponent += writtenExponent(unsignedLiteral.substr(mark + 1));
+    while (result.digits.ends_with('0')) {
+        result.digits.pop_back();
+        ++result.exponent;
+    }
+    result.digits.erase(0, result.digits.find_first_not_of('0'));
+    return result;
+}
+
+}  // namespace
+
 bool isInteger(std::string_view literal) {
     return literal.find_first_of(".eE") == std::string_view::npos;
 }
 
-}  // namespace
+std::optional<std::int64_t> exactInteger(std::string_view literal) {
+    const auto parse = [](std::string_view digits) -> std::optional<std::int64_t> {
+        std::int64_t value = 0;
+        const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), value);
+        if (result.ec != std::errc()) return std::nullopt;
+        return value;
+    };
+    if (isInteger(literal)) return parse(literal);
+    const bool isNegative = literal.starts_with('-');
+    const Scaled number = scaled(literal.substr(isNegative ? 1 : 0));
+    if (number.digits.empty()) return 0;
+    constexpr std::int64_t mostDigits = 19;  // of a 64-bit integer
+    if (number.exponent < 0 || static_cast<std::int64_t>(number.digits.size()) + number.exponent > mostDigits) {
+        return std::nullopt;
+    }
+    return parse((isNegative ? "-" : "") + number.digits + std::string(static_cast<std::size_t>(number.exponent), '0'));
+}
 
 double nearestDouble(std::string_view literal) {
 #ifdef __cpp_lib_to_chars

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -8,6 +9,13 @@ namespace vellark {
 
 /// Numbers between their text and their value. `literal` is always a number in the grammar of RFC 8259.
 namespace JSONNumberText {
+
+/// True when the literal has neither a fraction nor an exponent.
+[[nodiscard]] bool isInteger(std::string_view literal);
+
+/// The value when it is whole and within 64 signed bits, judged on the digits and never through a double: "1.0", "12e2"
+/// and "-0" are integers, "1.5" and "9223372036854775808" give nothing.
+[[nodiscard]] std::optional<std::int64_t> exactInteger(std::string_view literal);
 
 /// The nearest double; a value beyond the range of a double gives an infinity, one too close to zero gives zero.
 [[nodiscard]] double nearestDouble(std::string_view literal);
