@@ -2,8 +2,14 @@
 #include <VellarkFoundation/JSON/JSONNumberText.hpp>
 #include <VellarkFoundation/Text/UTF8.hpp>
 
+// The parser and what it stands on. The rest of the library (boost/json/src.hpp) would bring the standard streams, and
+// with them most of a static program's size.
+#define BOOST_JSON_SOURCE
 #include <boost/json/basic_parser_impl.hpp>
-#include <boost/json/src.hpp>
+#include <boost/json/detail/impl/default_resource.ipp>
+#include <boost/json/detail/impl/except.ipp>
+#include <boost/json/detail/impl/stack.ipp>
+#include <boost/json/impl/error.ipp>
 
 #include <algorithm>
 #include <cmath>
