@@ -18,6 +18,7 @@ namespace vellark::CaptureHelperMain {
 
 namespace {
 
+/// Bytes that one read asks for.
 constexpr std::size_t chunkBytes = 65'536;
 
 std::string currentDirectory() {
@@ -45,7 +46,7 @@ void capture(int argumentCount, const char* const* arguments) {
     for (int index = 1; index < argumentCount; ++index) {
         given.emplace_back(arguments[index]);
     }
-    const auto invocation = CaptureInvocation::make(given, makeEnvironment(environ), currentDirectory());
+    const auto invocation = CaptureInvocation::make(given, Environment(environ), currentDirectory());
     if (!invocation) return;
     invocation->run([] { return readInput(STDIN_FILENO, CaptureSignal::maximumInputBytes, inputTime); });
 }
@@ -58,26 +59,22 @@ void reply() {
 
 }  // namespace
 
-std::optional<std::string> readInput(int descriptor, std::size_t limit, std::chrono::milliseconds time) {
+std::optional<InputBuffer> readInput(int descriptor, std::size_t limit, std::chrono::milliseconds time) {
     const auto deadline = std::chrono::steady_clock::now() + time;
-    std::string input;
-    std::size_t length = 0;
-    while (length <= limit) {
+    InputBuffer input(limit + 1);
+    while (input.length() <= limit) {
         const Wait wait = waitForInput(descriptor, deadline);
         if (wait == Wait::interrupted) continue;
         if (wait == Wait::failed) return std::nullopt;
-        const std::size_t wanted = std::min(chunkBytes, limit + 1 - length);
-        if (input.size() < length + wanted) input.resize(std::max(length + wanted, 2 * input.size()));
-        const ssize_t count = ::read(descriptor, input.data() + length, wanted);
+        const ssize_t count = ::read(descriptor, input.end(), std::min(chunkBytes, limit + 1 - input.length()));
         if (count == 0) break;
         if (count > 0) {
-            length += static_cast<std::size_t>(count);
+            input.extend(static_cast<std::size_t>(count));
         } else if (errno != EINTR && errno != EAGAIN) {
             return std::nullopt;
         }
     }
-    if (length > limit) return std::nullopt;
-    input.resize(length);
+    if (input.length() > limit) return std::nullopt;
     return input;
 }
 

@@ -1,9 +1,10 @@
 #pragma once
 
+#include <VellarkCapture/InputBuffer.hpp>
+
 #include <chrono>
 #include <cstddef>
 #include <optional>
-#include <string>
 
 namespace vellark {
 
@@ -16,7 +17,7 @@ inline constexpr std::chrono::milliseconds inputTime{1500};
 
 /// Reads the descriptor to its end. Nothing when that takes longer than `time`, when there are more than `limit` bytes
 /// (one byte over it is read at most), or on a read error; never a part of the input.
-[[nodiscard]] std::optional<std::string> readInput(int descriptor, std::size_t limit, std::chrono::milliseconds time);
+[[nodiscard]] std::optional<InputBuffer> readInput(int descriptor, std::size_t limit, std::chrono::milliseconds time);
 
 /// The whole program, as `main` gets its arguments.
 int main(int argumentCount, const char* const* arguments) noexcept;

@@ -82,7 +82,7 @@ std::optional<std::string> take(Options& options, std::string_view name) {
 }
 
 std::string defaultData(const Environment& environment) {
-    if (const auto directory = valueOf(environment, "VELLARK_DATA_DIR")) return std::string(*directory);
+    if (const auto directory = environment.value("VELLARK_DATA_DIR")) return std::string(*directory);
     return HomeDirectory::current(environment) + std::string(defaultDataDirectory);
 }
 
@@ -138,10 +138,10 @@ JSONObject CaptureInvocation::filePayload() const {
 }
 
 std::optional<JSONObject> CaptureInvocation::inputPayload(const Input& input) const {
-    const auto bytes = input();
-    if (!bytes) return std::nullopt;
+    const auto given = input();
+    if (!given) return std::nullopt;
     const auto keep = hook ? HookNormalizer::payloadSelection() : CaptureSignal::payloadSelection();
-    auto value = JSONReader::read(*bytes, {.keep = keep});
+    auto value = JSONReader::read(given->bytes(), {.keep = keep});
     if (!value || value->object() == nullptr) return std::nullopt;
     JSONObject object = std::move(*value).takeObject();
     if (!hook) {

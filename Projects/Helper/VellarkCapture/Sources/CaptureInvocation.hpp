@@ -1,5 +1,6 @@
 #pragma once
 
+#include <VellarkCapture/InputBuffer.hpp>
 #include <VellarkFoundation/Files/Environment.hpp>
 #include <VellarkFoundation/JSON/JSONValue.hpp>
 
@@ -22,7 +23,7 @@ namespace vellark {
 /// argument, whatever that looks like; of an option given twice the last counts.
 struct CaptureInvocation {
     /// Gives all bytes of standard input, or nothing when they could not be had.
-    using Input = std::function<std::optional<std::string>()>;
+    using Input = std::function<std::optional<InputBuffer>()>;
 
     std::string source;                                       ///< one of CaptureSignal::sources
     bool hook = false;                                        ///< the payload is the agent's own, for HookNormalizer

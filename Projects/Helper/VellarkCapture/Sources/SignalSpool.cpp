@@ -204,7 +204,7 @@ std::optional<std::string> SignalSpool::configuredRoot(std::string_view source) 
     std::string underscored(source);
     std::ranges::replace(underscored, '-', '_');
     for (const std::string& variable : {configurationVariable(underscored), configurationVariable(source)}) {
-        if (const auto value = valueOf(environment, variable)) candidates.emplace_back(*value);
+        if (const auto value = environment.value(variable)) candidates.emplace_back(*value);
     }
 
     for (const std::string& candidate : candidates) {
@@ -218,15 +218,15 @@ std::optional<std::string> SignalSpool::configuredRoot(std::string_view source) 
 std::string SignalSpool::agentRoot(std::string_view source) const {
     if (auto root = configuredRoot(source)) return *root;
 
-    const auto homeValue = valueOf(environment, "HOME");
+    const auto homeValue = environment.value("HOME");
     const std::string home = homeValue ? std::string(*homeValue) : HomeDirectory::current(environment);
-    const auto redirected = valueOf(environment, "VELLARK_AGENT_HOME");
+    const auto redirected = environment.value("VELLARK_AGENT_HOME");
     const std::string base = redirected ? HomeDirectory::expandingTilde(*redirected, environment) : home;
 
     const auto variable = std::ranges::find(homeVariables, source, &HomeVariable::source);
     if (variable != homeVariables.end() && PythonPath(base) == PythonPath(home)) {
         const std::string root =
-            HomeDirectory::expandingTilde(valueOf(environment, variable->name).value_or(""), environment);
+            HomeDirectory::expandingTilde(environment.value(variable->name).value_or(""), environment);
         if (root.starts_with('/')) return root;
     }
 

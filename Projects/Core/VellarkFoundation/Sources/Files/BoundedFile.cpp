@@ -15,17 +15,19 @@ std::optional<std::string> read(const std::string& path, std::size_t maximumByte
     if (::fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode)) return std::nullopt;
     if (static_cast<std::size_t>(status.st_size) > maximumBytes) return std::nullopt;
 
-    // One byte more than the file's size: the read that fills the content also finds its end.
+    // One byte more than the file's size: a read that comes back short has found the end. More than that is there only
+    // when the file has grown since.
     std::string content(static_cast<std::size_t>(status.st_size) + 1, '\0');
     std::size_t length = 0;
     while (true) {
-        if (length == content.size()) content.resize(2 * content.size());
-        const ssize_t count = ::read(file.get(), content.data() + length, content.size() - length);
+        const std::size_t wanted = content.size() - length;
+        const ssize_t count = ::read(file.get(), content.data() + length, wanted);
         if (count < 0 && errno == EINTR) continue;
         if (count < 0) return std::nullopt;
-        if (count == 0) break;
         length += static_cast<std::size_t>(count);
         if (length > maximumBytes) return std::nullopt;
+        if (static_cast<std::size_t>(count) < wanted) break;
+        content.resize(2 * content.size());
     }
     content.resize(length);
     return content;

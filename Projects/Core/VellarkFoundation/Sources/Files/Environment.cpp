@@ -3,16 +3,32 @@
 
 namespace vellark {
 
-Environment makeEnvironment(const char* const* entries) {
-    Environment environment;
-    if (entries == nullptr) return environment;
-    for (; *entries != nullptr; ++entries) {
+namespace {
+
+std::optional<std::string_view> find(const char* const* entries, std::string_view name) {
+    for (; entries != nullptr && *entries != nullptr; ++entries) {
         const std::string_view entry = *entries;
-        const std::size_t equals = entry.find('=');
-        if (equals == std::string_view::npos || !UTF8::isValid(entry)) continue;
-        environment.emplace(entry.substr(0, equals), entry.substr(equals + 1));
+        if (entry.size() > name.size() && entry[name.size()] == '=' && entry.starts_with(name)) {
+            return entry.substr(name.size() + 1);
+        }
     }
-    return environment;
+    return std::nullopt;
+}
+
+}  // namespace
+
+Environment::Environment(std::initializer_list<std::pair<const std::string, std::string>> variables)
+    : variables_(std::make_shared<const std::map<std::string, std::string, std::less<>>>(variables)) {}
+
+std::optional<std::string_view> Environment::value(std::string_view name) const {
+    std::optional<std::string_view> found;
+    if (!variables_) {
+        found = find(entries_, name);
+    } else if (const auto variable = variables_->find(name); variable != variables_->end()) {
+        found = variable->second;
+    }
+    if (found && !UTF8::isValid(*found)) return std::nullopt;
+    return found;
 }
 
 }  // namespace vellark

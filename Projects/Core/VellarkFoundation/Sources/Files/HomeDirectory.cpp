@@ -66,7 +66,7 @@ std::optional<std::string> ofUser(std::string_view name) {
 }
 
 std::string current(const Environment& environment) {
-    if (const auto home = valueOf(environment, "HOME"); home && home->starts_with('/')) return std::string(*home);
+    if (const auto home = environment.value("HOME"); home && home->starts_with('/')) return std::string(*home);
     return lookUp({.name = {}, .userID = getuid()}).value_or("");
 }
 

@@ -40,7 +40,10 @@ public:
     static constexpr std::size_t max_string_size = static_cast<std::size_t>(-1);
 
     JSONDocumentBuilder(std::string_view source, std::span<const JSONSelection> keep)
-        : source_(source), keepAtTop_(keep) {}
+        : source_(source), keepAtTop_(keep) {
+        frames_.reserve(16);
+        document_.tokens_.reserve(64);
+    }
 
     JSONDocument takeDocument() { return std::move(document_); }
 
