@@ -1,16 +1,19 @@
 #pragma once
 
+#include "Support/TemporaryDirectory.hpp"
+
 #include <fcntl.h>
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <cerrno>
+#include <csignal>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
-
-#include "Support/TemporaryDirectory.hpp"
 
 namespace vellark::testing {
 
@@ -26,46 +29,81 @@ struct ProcessOptions {
     std::string input;
     std::map<std::string, std::string> environment;  ///< the whole of it
     std::string directory = "/";
+    std::optional<int> inputDescriptor;  ///< in place of `input`
+    bool closesOutput = false;           ///< standard output and error are closed
 };
 
-/// Runs a program to its end, with its streams in files, so that no amount of output can block it. Nothing when it
-/// cannot be started.
+/// A program that runs, with its streams in files, so that no amount of output can block it.
+class Process {
+public:
+    /// Nothing when the program cannot be started.
+    static std::optional<Process> start(const ProcessOptions& options) {
+        Process process;
+        process.scratch_ = std::make_unique<TemporaryDirectory>();
+        if (!process.spawn(options)) return std::nullopt;
+        return process;
+    }
+
+    void kill(int signal) const { ::kill(child_, signal); }
+
+    /// Waits for its end.
+    ProcessResult wait() const {
+        int status = 0;
+        while (::waitpid(child_, &status, 0) < 0 && errno == EINTR) {
+        }
+        const int code = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+        return {code, readFile(*scratch_ / "out"), readFile(*scratch_ / "err")};
+    }
+
+private:
+    static std::vector<char*> pointers(std::vector<std::string>& texts) {
+        std::vector<char*> result;
+        for (std::string& text : texts) {
+            result.push_back(text.data());
+        }
+        result.push_back(nullptr);
+        return result;
+    }
+
+    bool spawn(const ProcessOptions& options) {
+        std::vector<std::string> arguments = options.arguments;
+        std::vector<std::string> entries;
+        for (const auto& [name, value] : options.environment) {
+            entries.push_back(name + "=" + value);
+        }
+        writeFile(*scratch_ / "in", options.input);
+        const std::string streams[] = {(*scratch_ / "in").string(), (*scratch_ / "out").string(),
+                                       (*scratch_ / "err").string()};
+        posix_spawn_file_actions_t actions;
+        posix_spawn_file_actions_init(&actions);
+        posix_spawn_file_actions_addchdir_np(&actions, options.directory.c_str());
+        if (options.inputDescriptor) {
+            posix_spawn_file_actions_adddup2(&actions, *options.inputDescriptor, 0);
+        } else {
+            posix_spawn_file_actions_addopen(&actions, 0, streams[0].c_str(), O_RDONLY, 0);
+        }
+        for (int stream = 1; stream <= 2; ++stream) {
+            if (options.closesOutput) {
+                posix_spawn_file_actions_addclose(&actions, stream);
+            } else {
+                posix_spawn_file_actions_addopen(&actions, stream, streams[stream].c_str(), O_WRONLY | O_CREAT, 0600);
+            }
+        }
+        const int failed = posix_spawnp(&child_, arguments[0].c_str(), &actions, nullptr, pointers(arguments).data(),
+                                        pointers(entries).data());
+        posix_spawn_file_actions_destroy(&actions);
+        return failed == 0;
+    }
+
+    std::unique_ptr<TemporaryDirectory> scratch_;
+    pid_t child_ = 0;
+};
+
+/// Runs a program to its end. Nothing when it cannot be started.
 inline std::optional<ProcessResult> runProcess(const ProcessOptions& options) {
-    const TemporaryDirectory scratch;
-    writeFile(scratch / "in", options.input);
-    const std::string paths[] = {(scratch / "in").string(), (scratch / "out").string(), (scratch / "err").string()};
-
-    std::vector<char*> arguments;
-    for (const std::string& argument : options.arguments) {
-        arguments.push_back(const_cast<char*>(argument.c_str()));
-    }
-    arguments.push_back(nullptr);
-    std::vector<std::string> entries;
-    for (const auto& [name, value] : options.environment) {
-        entries.push_back(name + "=" + value);
-    }
-    std::vector<char*> environment;
-    for (std::string& entry : entries) {
-        environment.push_back(entry.data());
-    }
-    environment.push_back(nullptr);
-
-    posix_spawn_file_actions_t actions;
-    posix_spawn_file_actions_init(&actions);
-    posix_spawn_file_actions_addchdir_np(&actions, options.directory.c_str());
-    posix_spawn_file_actions_addopen(&actions, 0, paths[0].c_str(), O_RDONLY, 0);
-    posix_spawn_file_actions_addopen(&actions, 1, paths[1].c_str(), O_WRONLY | O_CREAT, 0600);
-    posix_spawn_file_actions_addopen(&actions, 2, paths[2].c_str(), O_WRONLY | O_CREAT, 0600);
-    pid_t child = 0;
-    const int failed = posix_spawnp(&child, arguments[0], &actions, nullptr, arguments.data(), environment.data());
-    posix_spawn_file_actions_destroy(&actions);
-    if (failed != 0) return std::nullopt;
-
-    int status = 0;
-    while (::waitpid(child, &status, 0) < 0 && errno == EINTR) {
-    }
-    const int code = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
-    return ProcessResult{code, readFile(paths[1]), readFile(paths[2])};
+    const auto process = Process::start(options);
+    if (!process) return std::nullopt;
+    return process->wait();
 }
 
 }  // namespace vellark::testing
