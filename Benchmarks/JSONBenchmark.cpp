@@ -7,7 +7,6 @@
 
 #include <benchmark/benchmark.h>
 #include <boost/json.hpp>
-#include <boost/json/src.hpp>
 #if __has_include(<nlohmann/json.hpp>)
 #include <nlohmann/json.hpp>
 #define VELLARK_HAS_NLOHMANN 1

@@ -28,6 +28,12 @@ CONFIGURATION = {
 }
 
 
+def interpreter():
+    """The system's own Python, which starts faster than most; a version manager's wrapper would count against it."""
+    system = Path("/usr/bin/python3")
+    return system if system.exists() else sys.executable
+
+
 class Workplace:
     """A home, a data directory with its configuration, and the payloads, all below one directory."""
 
@@ -44,8 +50,7 @@ class Workplace:
         self.commands = {
             "helper": [programs / "VellarkCapture", "--source", "claude", "--data", self.data],
             "floor": [programs / "SignalFloor", self.data, self.agent],
-            # The interpreter itself: a version manager's wrapper in front of it would count against it.
-            "python": [sys.executable, HERE / "Peers" / "signal_hook.py", "claude", self.data],
+            "python": [interpreter(), HERE / "Peers" / "signal_hook.py", "claude", self.data],
         }
         self.timer = programs / "ProcessTimer"
 
