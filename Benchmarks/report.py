@@ -7,6 +7,8 @@ A row of Goals.json names a subject, our figure and the peer's in it, and what i
     fasterThanPeer  the peer's time is at least `bound` times ours
     bytes           our figure is at most `bound` bytes; there is no peer
 
+Where no bound is set, the ratio is shown for information.
+
 A subject is a Google Benchmark program below (its figures are the names of its benchmarks) or one of processes.py.
 """
 
@@ -52,7 +54,7 @@ def shown(figure, kind):
 
 def row(goal, figures):
     """The table's row for one goal, and whether it was met; nothing where it could not be told."""
-    kind, bound, peer_name = goal["kind"], goal["bound"], goal.get("peer", "")
+    kind, bound, peer_name = goal["kind"], goal.get("bound"), goal.get("peer", "")
     head = [goal["subject"], goal["ours"]]
     if goal["ours"] not in figures or (peer_name and peer_name not in figures):
         return head + ["", peer_name, "missing", "", "", "not measured"], None
@@ -61,12 +63,15 @@ def row(goal, figures):
         met = ours <= bound
         return head + [shown(ours, kind), "", "", "", f"<= {shown(bound, kind)}", "met" if met else "NOT MET"], met
     peer = statistics.median(figures[peer_name])
+    ratio = ours / peer if kind == "timesPeer" else peer / ours
+    head += [shown(ours, kind), peer_name, shown(peer, kind), f"{ratio:.2f}"]
+    if bound is None:
+        return head + ["", "no goal"], None
     if kind == "timesPeer":
-        ratio, met, goal_text = ours / peer, ours / peer <= bound, f"<= {bound} x its time"
+        met, wanted = ratio <= bound, f"<= {bound} x its time"
     else:
-        ratio, met, goal_text = peer / ours, peer / ours >= bound, f">= {bound} x its speed"
-    return head + [shown(ours, kind), peer_name, shown(peer, kind), f"{ratio:.2f}", goal_text,
-                   "met" if met else "NOT MET"], met
+        met, wanted = ratio >= bound, f">= {bound} x its speed"
+    return head + [wanted, "met" if met else "NOT MET"], met
 
 
 def print_table(rows):
