@@ -13,7 +13,7 @@ set(CMAKE_CXX_FLAGS_CHECKED "-O1 -g -fno-omit-frame-pointer -D_GLIBCXX_ASSERTION
 function(vellark_configure_target target)
     target_compile_features(${target} PUBLIC cxx_std_20)
     set_target_properties(${target} PROPERTIES CXX_EXTENSIONS OFF)
-    target_compile_options(${target} PRIVATE -ffunction-sections -fdata-sections)
+    target_compile_options(${target} PRIVATE -ffunction-sections -fdata-sections -fno-semantic-interposition)
     if(VELLARK_DEVELOPER)
         # Designated initialisers leave fields out on purpose: what is not named has its default.
         target_compile_options(${target} PRIVATE

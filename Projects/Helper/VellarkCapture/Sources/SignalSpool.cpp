@@ -1,3 +1,4 @@
+#include <VellarkCapture/PendingSignals.hpp>
 #include <VellarkCapture/SignalSpool.hpp>
 #include <VellarkDomain/Capture/CaptureSignal.hpp>
 #include <VellarkDomain/Capture/CaptureVisibilityPolicy.hpp>
@@ -11,7 +12,6 @@
 #include <VellarkFoundation/Text/UTF8.hpp>
 #include <VellarkFoundation/Time/TimeText.hpp>
 
-#include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 
@@ -140,23 +140,6 @@ std::string digest(std::initializer_list<std::string_view> pieces) {
     return SHA256::hexadecimal(text);
 }
 
-struct CloseDirectory {
-    void operator()(DIR* listing) const { ::closedir(listing); }
-};
-
-/// Number of signals that wait in the directory; nothing when it cannot be listed.
-std::optional<std::size_t> pendingCount(const std::string& directory) {
-    const std::unique_ptr<DIR, CloseDirectory> listing(::opendir(directory.c_str()));
-    if (!listing) return std::nullopt;
-    std::size_t count = 0;
-    errno = 0;
-    while (const dirent* entry = ::readdir(listing.get())) {
-        if (std::string_view(entry->d_name).ends_with(".json")) ++count;
-    }
-    if (errno != 0) return std::nullopt;
-    return count;
-}
-
 /// Makes the directory where it is missing. False when something else stands in its place, a link to a directory too.
 bool prepareSpool(const std::string& directory) {
     if (::mkdir(directory.c_str(), 0700) != 0 && errno != EEXIST) return false;
@@ -283,7 +266,7 @@ JSONObject SignalSpool::profile(std::string_view source, const JSONObject& suppl
 std::optional<std::string> SignalSpool::write(std::string_view bytes, std::string_view temporaryName) const {
     const std::string directory = data + "/" + std::string(CaptureSignal::directory);
     if (!prepareSpool(directory)) return std::nullopt;
-    const auto pending = pendingCount(directory);
+    const auto pending = PendingSignals::count(directory);
     if (!pending || *pending >= CaptureSignal::maximumPending) return std::nullopt;
 
     const auto identifier = UUID::random();

@@ -1,5 +1,6 @@
 #include <VellarkFoundation/JSON/JSONDocument.hpp>
 #include <VellarkFoundation/JSON/JSONNumberText.hpp>
+#include <VellarkFoundation/JSON/JSONStringScan.hpp>
 #include <VellarkFoundation/Text/UTF8.hpp>
 
 // The parser and what it stands on. The rest of the library (boost/json/src.hpp) would bring the standard streams, and
@@ -47,6 +48,9 @@ public:
     }
 
     JSONDocument takeDocument() { return std::move(document_); }
+
+    /// Whether the text that is being read, or is about to be, is one that nobody keeps.
+    [[nodiscard]] bool dropsText() const { return skippedDepth_ > 0 || skipsNextValue_; }
 
     bool on_document_begin(json::error_code&) { return true; }
     bool on_document_end(json::error_code&) { return true; }
@@ -119,7 +123,7 @@ private:
     }
 
     bool collect(json::string_view part) {
-        if (skippedDepth_ == 0 && !skipsNextValue_) collected_.append(part.data(), part.size());
+        if (!dropsText()) collected_.append(part.data(), part.size());
         return true;
     }
 
@@ -241,16 +245,71 @@ std::string clampingExponents(std::string_view text) {
     return clamped;
 }
 
-Result<JSONDocument, json::error_code> run(std::string_view text, std::string_view source,
-                                           std::span<const JSONSelection> keep, std::size_t& consumed) {
-    json::parse_options options;
-    options.max_depth = JSONDocument::maximumDepth;
-    options.allow_invalid_utf8 = true;  // checked before
-    json::basic_parser<JSONDocumentBuilder> parser(options, source, keep);
-    json::error_code error;
-    consumed = parser.write_some(false, text.data(), text.size(), error);
-    if (error) return failure(error);
-    return parser.handler().takeDocument();
+/// One pass of the parser over a text, in as many pieces as the caller likes.
+class Parse {
+public:
+    Parse(std::string_view text, std::string_view source, std::span<const JSONSelection> keep)
+        : text_(text), parser_(parserOptions(), source, keep) {}
+
+    /// Hands over the text from where the last piece ended up to `end`.
+    void feed(std::size_t end) {
+        if (error_ || parser_.done()) return;
+        const bool isLast = end == text_.size();
+        offset_ += parser_.write_some(!isLast, text_.data() + offset_, end - offset_, error_);
+    }
+
+    /// Takes what lies before `end` as read. Only inside a string that nobody keeps.
+    void skip(std::size_t end) {
+        if (!error_) offset_ = end;
+    }
+
+    /// True between the quotes of a string that nobody keeps.
+    [[nodiscard]] bool dropsText() { return !error_ && !parser_.done() && parser_.handler().dropsText(); }
+
+    [[nodiscard]] std::size_t offset() const { return offset_; }
+    [[nodiscard]] bool hasFailed() const { return error_.failed(); }
+    [[nodiscard]] bool exponentOverflowed() const { return error_ == json::error::exponent_overflow; }
+    [[nodiscard]] JSONDocument takeDocument() { return parser_.handler().takeDocument(); }
+
+private:
+    static json::parse_options parserOptions() {
+        json::parse_options options;
+        options.max_depth = JSONDocument::maximumDepth;
+        options.allow_invalid_utf8 = true;  // checked before
+        return options;
+    }
+
+    std::string_view text_;
+    json::basic_parser<JSONDocumentBuilder> parser_;
+    json::error_code error_;
+    std::size_t offset_ = 0;
+};
+
+/// Strings longer than this, in bytes, are worth a stop in order to pass them over.
+constexpr std::size_t longString = 512;
+
+/// Runs the parser over the whole text. Where members are dropped, long strings inside them go past it: they are only
+/// scanned, which is what makes a payload of megabytes cheap. A string that is not as it should be is left to the
+/// parser, which then finds the fault.
+void run(Parse& parse, std::string_view text, bool dropsMembers) {
+    std::size_t open = dropsMembers ? text.find('"') : std::string_view::npos;
+    while (open != std::string_view::npos) {
+        const auto close = JSONStringScan::closingQuote(text, open + 1);
+        if (!close) break;
+        if (*close - open > longString) {
+            parse.feed(open + 1);
+            if (parse.dropsText()) parse.skip(*close);
+        }
+        open = text.find('"', *close + 1);
+    }
+    parse.feed(text.size());
+}
+
+Result<JSONDocument, JSONError> finish(Parse& parse, std::string_view text, std::size_t skipped) {
+    if (parse.hasFailed()) return failure(JSONError{skipped + parse.offset()});
+    const std::string_view rest = withoutBlanks(text.substr(parse.offset()));
+    if (!rest.empty()) return failure(JSONError{skipped + text.size() - rest.size()});
+    return parse.takeDocument();
 }
 
 }  // namespace
@@ -264,16 +323,15 @@ Result<JSONDocument, JSONError> JSONDocument::parse(std::string_view text, const
     if (text.size() > std::numeric_limits<std::uint32_t>::max() || !UTF8::isValid(text))
         return failure(JSONError{skipped});
 
-    std::size_t consumed = 0;
-    auto document = run(text, text, options.keep, consumed);
-    if (!document && document.error() == json::error::exponent_overflow) {
-        // No text stays in the rewritten copy: the builder copies what does not stand in the source.
-        document = run(clampingExponents(text), {}, options.keep, consumed);
+    Parse parse(text, text, options.keep);
+    run(parse, text, !options.keep.empty());
+    if (parse.exponentOverflowed()) {
+        const std::string clamped = clampingExponents(text);
+        Parse second(clamped, {}, options.keep);  // no source: all texts are copied, as `clamped` goes
+        run(second, clamped, !options.keep.empty());
+        return finish(second, text, skipped);
     }
-    if (!document) return failure(JSONError{skipped + consumed});
-    const std::string_view rest = withoutBlanks(text.substr(consumed));
-    if (!rest.empty()) return failure(JSONError{skipped + text.size() - rest.size()});
-    return std::move(*document);
+    return finish(parse, text, skipped);
 }
 
 std::optional<bool> JSONNode::boolean() const {

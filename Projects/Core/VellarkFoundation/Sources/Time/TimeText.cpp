@@ -1,10 +1,20 @@
 #include <VellarkFoundation/Time/TimeText.hpp>
 
-#include <array>
 #include <chrono>
-#include <cstdio>
+#include <cstdint>
 
 namespace vellark::TimeText {
+
+namespace {
+
+// Not printf: its first use costs a short-lived program more than the rest of this file.
+void appendPadded(std::string& text, std::int64_t value, std::size_t width) {
+    const std::string digits = std::to_string(value);
+    if (digits.size() < width) text.append(width - digits.size(), '0');
+    text += digits;
+}
+
+}  // namespace
 
 std::string millisecondsUTC(timespec moment) {
     using namespace std::chrono;
@@ -12,20 +22,27 @@ std::string millisecondsUTC(timespec moment) {
     const sys_days midnight = floor<days>(seconds);
     const year_month_day date{midnight};
     const hh_mm_ss time{seconds - midnight};
-    std::array<char, 64> buffer{};
-    const int length = std::snprintf(buffer.data(), buffer.size(), "%04d-%02u-%02uT%02d:%02d:%02d.%03dZ",
-                                     static_cast<int>(date.year()), static_cast<unsigned>(date.month()),
-                                     static_cast<unsigned>(date.day()), static_cast<int>(time.hours().count()),
-                                     static_cast<int>(time.minutes().count()), static_cast<int>(time.seconds().count()),
-                                     static_cast<int>(moment.tv_nsec / 1'000'000));
-    return {buffer.data(), static_cast<std::size_t>(length)};
+    std::string text;
+    appendPadded(text, static_cast<int>(date.year()), 4);
+    text += '-';
+    appendPadded(text, static_cast<unsigned>(date.month()), 2);
+    text += '-';
+    appendPadded(text, static_cast<unsigned>(date.day()), 2);
+    text += 'T';
+    appendPadded(text, time.hours().count(), 2);
+    text += ':';
+    appendPadded(text, time.minutes().count(), 2);
+    text += ':';
+    appendPadded(text, time.seconds().count(), 2);
+    text += '.';
+    appendPadded(text, moment.tv_nsec / 1'000'000, 3);
+    return text + 'Z';
 }
 
 std::string secondsWithMicroseconds(timespec moment) {
-    std::array<char, 48> buffer{};
-    const int length = std::snprintf(buffer.data(), buffer.size(), "%lld.%06ld", static_cast<long long>(moment.tv_sec),
-                                     static_cast<long>(moment.tv_nsec / 1000));
-    return {buffer.data(), static_cast<std::size_t>(length)};
+    std::string text = std::to_string(moment.tv_sec) + '.';
+    appendPadded(text, moment.tv_nsec / 1000, 6);
+    return text;
 }
 
 timespec now() {

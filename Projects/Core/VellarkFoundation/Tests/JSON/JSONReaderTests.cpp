@@ -1,7 +1,9 @@
-#include <gtest/gtest.h>
-
 #include <VellarkFoundation/JSON/JSONReader.hpp>
 #include <VellarkFoundation/JSON/PythonJSONWriter.hpp>
+
+#include <gtest/gtest.h>
+
+#include <random>
 
 namespace vellark {
 namespace {
@@ -12,7 +14,9 @@ struct Row {
     bool fragments = false;
 };
 
-std::string nested(std::size_t depth) { return std::string(depth, '[') + std::string(depth, ']'); }
+std::string nested(std::size_t depth) {
+    return std::string(depth, '[') + std::string(depth, ']');
+}
 
 TEST(JSONReader, accepts) {
     const Row rows[] = {
@@ -71,9 +75,11 @@ TEST(JSONReader, refuses) {
         {"UTF-16", std::string("[\0]\0", 4)},
         {"513 containers", nested(513)},
         {"a million brackets", std::string(1'000'000, '[')},
-        {"a million objects", [] {
+        {"a million objects",
+         [] {
              std::string text;
-             for (int index = 0; index < 1'000'000; ++index) text += "{\"a\":";
+             for (int index = 0; index < 1'000'000; ++index)
+                 text += "{\"a\":";
              return text;
          }()},
         {"open string", "[\"a"},
@@ -144,6 +150,39 @@ TEST(JSONReader, selectionDropsWhatIsNotAskedFor) {
     for (const auto& [text, expected] : rows) {
         EXPECT_EQ(rewritten(text, keep), expected) << text;
     }
+}
+
+// Long strings under dropped keys are passed over by a scan of their own, which must agree with the parser on all that
+// can stand in a string.
+TEST(JSONReader, droppedTextIsCheckedLikeKeptText) {
+    static constexpr JSONSelection keep[] = {{"kept"}};
+    const std::string pieces[] = {"\\n",     "\\\"",       "\\\\",  "\\u00e9", "\\ud834\\udd1e",
+                                  "é",       "가",         "𝄞",     "x",       "\\ud834",
+                                  "\\udd1e", "\\ud834\\n", "\\u12", "\\u12g4", "\n",
+                                  "\x1f",    "\\x",        "\"",    "\x7f",    "\", \"kept\": 1, \"b\": \"",
+                                  "\\",      "/"};
+    std::mt19937 random(7);
+    const auto below = [&](std::size_t bound) {
+        return std::uniform_int_distribution<std::size_t>(0, bound - 1)(random);
+    };
+    std::size_t accepted = 0;
+    for (int round = 0; round < 20'000; ++round) {
+        std::string content(below(2) * 600, 'a');
+        for (std::size_t count = below(4); count > 0; --count) {
+            const bool isOrdinary = below(3) > 0;
+            content += pieces[isOrdinary ? below(9) : below(std::size(pieces))] + std::string(below(12), 'b');
+        }
+        const std::string text =
+            "{\"dropped\": [\"" + content + "\", {\"" + content + "\": \"" + content + "\"}], \"kept\": 2}";
+        const auto whole = JSONReader::read(text);
+        const auto selected = JSONReader::read(text, {.keep = keep});
+        ASSERT_EQ(whole.has_value(), selected.has_value()) << text;
+        if (!whole) continue;
+        ++accepted;
+        EXPECT_EQ(*whole->object()->find("kept"), *selected->object()->find("kept"));
+        EXPECT_EQ(selected->object()->members().size(), 1U);
+    }
+    EXPECT_GT(accepted, 2'000U);
 }
 
 }  // namespace
