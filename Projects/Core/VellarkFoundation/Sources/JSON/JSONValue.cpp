@@ -58,7 +58,18 @@ JSONObject::JSONObject(JSONObject&&) noexcept = default;
 JSONObject& JSONObject::operator=(const JSONObject&) = default;
 JSONObject& JSONObject::operator=(JSONObject&&) noexcept = default;
 JSONObject::~JSONObject() = default;
-bool JSONObject::operator==(const JSONObject&) const = default;
+
+// Written out: as defaults, the comparisons of these mutually recursive types stop Clang 14 itself.
+bool JSONValue::operator==(const JSONValue& other) const {
+    return storage_ == other.storage_;
+}
+bool JSONMember::operator==(const JSONMember& other) const {
+    return key == other.key && value == other.value;
+}
+bool JSONObject::operator==(const JSONObject& other) const {
+    return members_ == other.members_;
+}
+
 bool JSONObject::isEmpty() const {
     return members_.empty();
 }

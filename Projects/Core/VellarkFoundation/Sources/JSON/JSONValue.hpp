@@ -50,7 +50,7 @@ public:
     [[nodiscard]] const std::vector<JSONMember>& members() const { return members_; }
     [[nodiscard]] bool isEmpty() const;
 
-    bool operator==(const JSONObject&) const;
+    bool operator==(const JSONObject& other) const;
 
 private:
     std::vector<JSONMember> members_;
@@ -86,7 +86,7 @@ public:
         return std::visit(std::forward<Visitor>(visitor), storage_);
     }
 
-    bool operator==(const JSONValue&) const = default;
+    bool operator==(const JSONValue& other) const;
 
 private:
     std::variant<std::nullptr_t, bool, JSONNumber, std::string, JSONArray, JSONObject> storage_ = nullptr;
@@ -96,7 +96,7 @@ struct JSONMember {
     std::string key;
     JSONValue value;
 
-    bool operator==(const JSONMember&) const = default;
+    bool operator==(const JSONMember& other) const;
 };
 
 /// The string under the key; a null pointer when there is none or when the value is no string.
