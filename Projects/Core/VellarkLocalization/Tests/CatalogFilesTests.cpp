@@ -1,3 +1,4 @@
+#include "Support/SampleBundle.hpp"
 #include <VellarkLocalization/AppLanguage.hpp>
 #include <VellarkLocalization/Formats/LocaleFormats.hpp>
 #include <VellarkLocalization/Messages/CatalogLibrary.hpp>
@@ -9,8 +10,6 @@
 #include <algorithm>
 #include <filesystem>
 #include <set>
-
-#include "Support/SampleBundle.hpp"
 
 // What holds for any set of catalogues that belongs together: for the module's own, and for the sample of the tests.
 

@@ -161,7 +161,9 @@ TEST(L10n, timestamps) {
     for (const auto& [text, seconds] : rows) {
         const auto date = L10n::timestamp(text);
         ASSERT_EQ(date.has_value(), seconds.has_value()) << text;
-        if (seconds) EXPECT_EQ(date->secondsSince1970, *seconds) << text;
+        if (seconds) {
+            EXPECT_EQ(date->secondsSince1970, *seconds) << text;
+        }
     }
     const std::string whole = "2026-01-02T03:04:05Z";
     for (std::size_t length = 0; length < whole.size(); ++length) {
