@@ -21,7 +21,7 @@ std::string_view languageOf(std::string_view value) {
 
 std::string_view firstNonEmpty(const Environment& environment, std::initializer_list<std::string_view> names) {
     for (const std::string_view name : names) {
-        if (const auto value = valueOf(environment, name); value && !value->empty()) return *value;
+        if (const auto value = environment.value(name); value && !value->empty()) return *value;
     }
     return {};
 }
@@ -33,7 +33,7 @@ std::vector<std::string> preferredLanguages(const Environment& environment) {
     const auto add = [&](std::string_view value) {
         if (const std::string_view language = languageOf(value); !language.empty()) languages.emplace_back(language);
     };
-    std::string_view list = valueOf(environment, "LANGUAGE").value_or("");
+    std::string_view list = environment.value("LANGUAGE").value_or("");
     while (!list.empty()) {
         const std::size_t end = list.find(':');
         add(list.substr(0, end));
@@ -50,9 +50,9 @@ std::string systemLocale(const Environment& environment) {
 
 Environment current() {
 #ifdef __APPLE__
-    return makeEnvironment(*_NSGetEnviron());
+    return Environment(*_NSGetEnviron());
 #else
-    return makeEnvironment(environ);
+    return Environment(environ);
 #endif
 }
 
