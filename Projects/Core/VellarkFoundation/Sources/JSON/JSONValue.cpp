@@ -58,7 +58,10 @@ JSONObject::JSONObject(JSONObject&&) noexcept = default;
 JSONObject& JSONObject::operator=(const JSONObject&) = default;
 JSONObject& JSONObject::operator=(JSONObject&&) noexcept = default;
 JSONObject::~JSONObject() = default;
-bool JSONObject::operator==(const JSONObject&) const = default;
+// Spelled out: Clang 14 crashes on defaulting a comparison that comes back to itself.
+bool JSONObject::operator==(const JSONObject& other) const {
+    return members_ == other.members_;
+}
 bool JSONObject::isEmpty() const {
     return members_.empty();
 }
