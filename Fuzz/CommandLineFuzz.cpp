@@ -1,24 +1,23 @@
+#include "FuzzTarget.hpp"
 #include <VellarkCapture/CaptureInvocation.hpp>
 #include <VellarkDomain/Capture/CaptureSignal.hpp>
 #include <VellarkDomain/Capture/HookNormalizer.hpp>
 #include <VellarkDomain/Capture/PythonText.hpp>
+#include <VellarkFoundation/Text/UTF8.hpp>
 
-#include <cstdint>
-#include <cstdlib>
+using namespace vellark;
 
-// A command line that is accepted names a known source, and one that has hooks where it says so; a file's payload is
-// complete without any input. Arguments are separated by zero bytes.
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    using namespace vellark;
-    const std::string_view text(reinterpret_cast<const char*>(data), size);
-    const auto arguments = PythonText::components(text, U'\0');
+// Arguments are separated by zero bytes. What is accepted names a known source, and a file never comes with a hook.
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const auto arguments = PythonText::components(fuzz::text(data, size), U'\0');
     const auto invocation = CaptureInvocation::make(arguments, {{"HOME", "/h"}}, "/w");
     if (!invocation) return 0;
-    if (!CaptureSignal::isSource(invocation->source)) std::abort();
-    if (invocation->hook && (invocation->file || !HookNormalizer::isHooked(invocation->source))) std::abort();
-    const auto payload = invocation->payload([]() -> std::optional<InputBuffer> { return std::nullopt; });
-    if (payload.has_value() != invocation->file.has_value()) std::abort();
-    if (payload && stringIn(*payload, "cwd") == nullptr) std::abort();
+    fuzz::require(CaptureSignal::isSource(invocation->source), "the source is known");
+    fuzz::require(!invocation->hook || (HookNormalizer::isHooked(invocation->source) && !invocation->file),
+                  "a hook has a row of events, and no file");
+    fuzz::require(UTF8::isValid(fuzz::text(data, size)), "arguments are UTF-8");
+    if (!invocation->file) return 0;
+    const auto payload = invocation->payload([] { return std::nullopt; });
+    fuzz::require(payload && stringIn(*payload, "cwd")->starts_with('/'), "a file has a payload with a folder");
     return 0;
 }

@@ -1,40 +1,26 @@
+#include "FuzzTarget.hpp"
 #include <VellarkDomain/Capture/CaptureSignal.hpp>
 #include <VellarkDomain/Capture/HookNormalizer.hpp>
-#include <VellarkFoundation/JSON/JSONReader.hpp>
-
-#include <algorithm>
-#include <cstdint>
-#include <cstdlib>
-
-// Whatever an agent sends, a signal is printable ASCII, JSON, and within its limit, and the reader that drops members
-// while it reads gives the same signal as the one that reads all.
-
-namespace {
+#include <VellarkFoundation/Text/UTF8.hpp>
 
 using namespace vellark;
 
-void check(std::string_view source, std::string_view text, std::span<const JSONSelection> keep, bool isHook) {
-    const auto signalOf = [&](const auto& value) -> std::optional<std::string> {
-        if (!value || value->object() == nullptr) return std::nullopt;
-        const auto payload = isHook ? HookNormalizer::normalize(source, *value->object()) : *value->object();
-        if (!payload) return std::nullopt;
-        return CaptureSignal::encode(source, *payload, {.includesResponses = true, .sortKeys = true});
-    };
-    const auto signal = signalOf(JSONReader::read(text, {.keep = keep}));
-    if (signal != signalOf(JSONReader::read(text))) std::abort();
-    if (!signal) return;
-    const auto isPrintable = [](char character) { return character >= ' ' && character <= '~'; };
-    if (signal->size() > CaptureSignal::maximumBytes || !std::ranges::all_of(*signal, isPrintable)) std::abort();
-    if (!JSONReader::read(*signal)) std::abort();
-}
-
-}  // namespace
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const std::string_view text(reinterpret_cast<const char*>(data), size);
-    check("claude", text, CaptureSignal::payloadSelection(), false);
+// Whatever an agent sends: its signal is short, ASCII, and JSON, and reading only what matters makes the same one.
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const auto whole = JSONReader::read(fuzz::text(data, size));
+    const auto selected = JSONReader::read(fuzz::text(data, size), {.keep = HookNormalizer::payloadSelection()});
+    fuzz::require(whole.has_value() == selected.has_value(), "a selection refuses what the whole is refused for");
+    if (!whole || whole->object() == nullptr) return 0;
     for (const auto& row : HookNormalizer::events()) {
-        check(row.source, text, HookNormalizer::payloadSelection(), true);
+        const auto signal = [&](const JSONObject& payload) {
+            const auto common = HookNormalizer::normalize(row.source, payload);
+            return common ? CaptureSignal::encode(row.source, *common, {.includesResponses = true}) : std::nullopt;
+        };
+        const auto text = signal(*whole->object());
+        fuzz::require(text == signal(*selected->object()), "a selection changes no signal");
+        if (!text) continue;
+        fuzz::require(text->size() <= CaptureSignal::maximumBytes && UTF8::isASCII(*text), "a signal is short ASCII");
+        fuzz::require(JSONReader::read(*text).has_value(), "a signal is JSON");
     }
     return 0;
 }

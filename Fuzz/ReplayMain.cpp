@@ -1,40 +1,37 @@
-#include <cstddef>
-#include <cstdint>
-#include <cstdio>
+#include "FuzzTarget.hpp"
+
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string>
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
-
 namespace {
 
 void replay(const std::filesystem::path& path) {
     std::ifstream file(path, std::ios::binary);
-    const std::string input(std::istreambuf_iterator<char>(file), {});
-    // Every prefix of an input is an input.
-    for (std::size_t size = 0; size <= input.size(); ++size) {
-        LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(input.data()), size);
-    }
+    const std::string content{std::istreambuf_iterator<char>(file), {}};
+    LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(content.data()), content.size());
 }
 
 }  // namespace
 
-// Runs the target on each file that is named, or that stands in a directory that is named, and on all its prefixes.
+/// Runs the target on each file that is named, and on all files below each folder. No file at all is a failure: it
+/// means that the seeds are not where they should be.
 int main(int argumentCount, char** arguments) {
-    std::size_t count = 0;
+    std::size_t fileCount = 0;
     for (int index = 1; index < argumentCount; ++index) {
-        if (std::filesystem::is_regular_file(arguments[index])) {
-            replay(arguments[index]);
-            ++count;
+        const std::filesystem::path path = arguments[index];
+        if (!std::filesystem::is_directory(path)) {
+            replay(path);
+            ++fileCount;
             continue;
         }
-        for (const auto& entry : std::filesystem::directory_iterator(arguments[index])) {
+        for (const auto& entry : std::filesystem::recursive_directory_iterator(path)) {
+            if (!entry.is_regular_file()) continue;
             replay(entry.path());
-            ++count;
+            ++fileCount;
         }
     }
-    std::printf("%zu inputs replayed\n", count);
-    return count == 0 ? 1 : 0;
+    std::printf("%zu files replayed\n", fileCount);
+    return fileCount > 0 ? 0 : 1;
 }

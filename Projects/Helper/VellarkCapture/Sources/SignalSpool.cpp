@@ -67,7 +67,7 @@ constexpr IdentityField agentHomeField{"agentHome", 4096, true};
 
 constexpr auto sourceKinds = std::to_array<std::string_view>({"cli", "desktop", "manual"});
 
-/// Longest path whose links are resolved, in bytes: far above what the system accepts, and a bound on the attempts.
+/// Longest path whose links are resolved, in bytes: far above what the system accepts, and a bound on the work.
 /// A signal with a longer one could not be written anyway.
 constexpr std::size_t longestResolvedPath = CaptureSignal::maximumBytes;
 
@@ -107,6 +107,15 @@ std::optional<std::string> realPath(std::string_view path) {
     const std::unique_ptr<char, decltype(&std::free)> real(::realpath(std::string(path).c_str(), nullptr), &std::free);
     if (!real) return std::nullopt;
     return std::string(real.get());
+}
+
+/// Lengths, in bytes, of the path's text with no component, the first one, the first two and so on up to all.
+std::vector<std::size_t> prefixLengths(const PythonPath& path) {
+    std::vector<std::size_t> lengths = {path.root().size()};
+    for (const std::string_view component : path.tail()) {
+        lengths.push_back(static_cast<std::size_t>(component.data() + component.size() - path.string().data()));
+    }
+    return lengths;
 }
 
 /// The member, stripped, when it is a text that can be believed.
@@ -227,19 +236,25 @@ std::string SignalSpool::agentRoot(std::string_view source) const {
 std::string SignalSpool::resolved(std::string_view path) {
     const PythonPath whole(path);
     const std::string_view text = whole.string();
-    // Cuts one component after another from the end, until what is left exists.
-    std::size_t kept = text.size();
-    while (true) {
-        if (const auto real = realPath(kept == 0 ? "." : text.substr(0, kept))) {
-            std::string_view removed = text.substr(kept);
-            if (removed.starts_with('/')) removed.remove_prefix(1);
-            return std::string(PythonPath(*real).appending(removed).string());
+    if (const auto real = realPath(text)) return *real;
+    // Where a component cannot be resolved no longer path can be, so the longest one that can is found by halving.
+    const std::vector<std::size_t> lengths = prefixLengths(whole);
+    std::optional<std::string> real;
+    std::size_t kept = 0;
+    for (std::size_t low = 0, high = lengths.size() - 1; low < high;) {
+        const std::size_t middle = (low + high) / 2;
+        if (auto found = realPath(lengths[middle] == 0 ? "." : text.substr(0, lengths[middle]))) {
+            real = std::move(found);
+            kept = lengths[middle];
+            low = middle + 1;
+        } else {
+            high = middle;
         }
-        const std::size_t rootLength = whole.root().size();
-        if (kept <= rootLength) return std::string(text);
-        const std::size_t slash = text.rfind('/', kept - 1);
-        kept = slash == std::string_view::npos ? 0 : std::max(slash, rootLength);
     }
+    if (!real) return std::string(text);
+    std::string_view removed = text.substr(kept);
+    if (removed.starts_with('/')) removed.remove_prefix(1);
+    return std::string(PythonPath(*real).appending(removed).string());
 }
 
 JSONObject SignalSpool::profile(std::string_view source, const JSONObject& supplied, std::string_view kind) const {

@@ -116,10 +116,13 @@ TEST_F(HelperInput, manyHelpersAtOnceLeaveOneSignalEach) {
 
 TEST_F(HelperInput, killedHelpersLeaveNoHalfSignal) {
     std::string input = R"({"cwd": "/w", "model": ")" + std::string(60'000, 'x') + "\"}";
-    for (int delay = 0; delay < 60; ++delay) {
+    const auto start = Clock::now();
+    run({"--source", "claude"}, input);
+    const auto whole = Clock::now() - start;
+    for (int moment = 0; moment < 60; ++moment) {  // from the start of a run to somewhat behind its end
         const auto process = Process::start(options({"--source", "claude"}, input));
         ASSERT_TRUE(process.has_value());
-        std::this_thread::sleep_for(std::chrono::microseconds(100 * delay));
+        std::this_thread::sleep_for(whole * moment / 50);
         process->kill(SIGKILL);
         process->wait();
     }

@@ -1,5 +1,7 @@
+#include "Support/RandomInput.hpp"
 #include "Support/TemporaryDirectory.hpp"
 #include <VellarkCapture/SignalSpool.hpp>
+#include <VellarkDomain/Capture/PythonPath.hpp>
 #include <VellarkFoundation/Digest/SHA256.hpp>
 
 #include <gtest/gtest.h>
@@ -84,6 +86,37 @@ TEST(SignalSpool, resolvesWhatExists) {
     };
     for (const auto& [path, expected] : rows) {
         EXPECT_EQ(SignalSpool::resolved(path), expected);
+    }
+}
+
+// The plain way: take one component after another from the end, until what is left can be resolved.
+std::string plainlyResolved(const PythonPath& path) {
+    std::vector<std::string_view> removed;
+    for (PythonPath rest = path;; rest = rest.parent()) {
+        std::error_code missing;
+        const auto real = std::filesystem::canonical(rest.string(), missing);
+        if (!missing) {
+            PythonPath result(real.string());
+            for (const std::string_view component : removed)
+                result = result.appending(component);
+            return std::string(result.string());
+        }
+        if (rest.tail().empty()) return std::string(path.string());
+        removed.insert(removed.begin(), path.tail()[rest.tail().size() - 1]);
+    }
+}
+
+TEST(SignalSpool, resolvesAsThePlainWay) {
+    const testing::TemporaryDirectory directory;
+    std::filesystem::create_directories(directory / "a/b/a");
+    testing::writeFile(directory / "a/file", "");
+    std::filesystem::create_directory_symlink(directory / "a/b", directory / "a/b/a/up");
+    std::filesystem::create_directory_symlink("b", directory / "a/link");
+    std::filesystem::create_symlink("loop", directory / "a/loop");
+    const std::vector<std::string> pieces = {"/a", "/b", "/..", "/link", "/up", "/loop", "/file", "/x", "/x"};
+    for (const std::string& tail : testing::randomTexts(41, 3'000, 9, pieces)) {
+        const std::string path = directory.string() + "/a" + tail;
+        ASSERT_EQ(SignalSpool::resolved(path), plainlyResolved(PythonPath(path))) << tail;
     }
 }
 
