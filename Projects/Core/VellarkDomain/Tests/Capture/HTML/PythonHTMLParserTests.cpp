@@ -77,7 +77,7 @@ def answer(case):
     except AssertionError:
         log.parts.append(b'failed')
     return b''.join(log.parts)
-if answer(b'0<!--a--!>b') != b'D10:<!--a--!>D1:b': sys.exit(77)
+if answer(b'0<!--a--!>b') != b'D9:<!--a--!>D1:b': sys.exit(77)
 )";
 
 void expectSameEvents(const std::vector<std::string>& cases) {
@@ -138,6 +138,7 @@ constexpr std::string_view tokens[] = {"<",
                                        "</script>",
                                        "</\u017Fcript >",
                                        "</scr\u0131pt>",
+                                       "</SCR\u0130PT>",
                                        "<style>",
                                        "</STYLE\n>",
                                        "<Template>",
@@ -182,13 +183,13 @@ TEST(PythonHTMLParser, agreesWithPythonOnMutatedPages) {
     }
     for (int count = 0; count < 3'000; ++count) {
         std::string page = generator.pick(pages);
-        for (std::size_t changes = 1 + generator.below(8); changes > 0; --changes) {
+        for (std::size_t changes = 1 + generator.below(8); changes > 0 && !page.empty(); --changes) {
             std::size_t at = generator.below(page.size());
             while (at > 0 && (static_cast<unsigned char>(page[at]) & 0xC0) == 0x80) {
                 --at;
             }
             if (generator.chance(4)) {
-                page.resize(std::max<std::size_t>(at, 1));
+                page.resize(at);
             } else if (generator.chance(3) && static_cast<unsigned char>(page[at]) < 0x80) {
                 page.erase(at, 1);
             } else {
