@@ -20,6 +20,7 @@ enum Class : std::uint8_t {
     endOfName = 16,       ///< ends an attribute's name, but for white space: "/", "=" and ">"
     endOfBareValue = 32,  ///< ends a value without quotes, but for white space: ">"
     endTagName = 64,      ///< letters, digits and "-.:_", which a regular end tag's name is made of
+    mayLower = 128,       ///< capitals of ASCII, and all bytes beyond ASCII
 };
 
 inline constexpr std::array<std::uint8_t, 256> classes = [] {
@@ -32,6 +33,10 @@ inline constexpr std::array<std::uint8_t, 256> classes = [] {
     };
     add("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz", letter | endTagName);
     add("0123456789-.:_", endTagName);
+    add("ABCDEFGHIJKLMNOPQRSTUVWXYZ", mayLower);
+    for (std::size_t byte = 0x80; byte < result.size(); ++byte) {
+        result[byte] = mayLower;
+    }
     add("\t\n\v\f\r\x1C\x1D\x1E\x1F ", space);
     add("\xC2\xE1\xE2\xE3", leadOfSpace);
     add(std::string_view("\t\n\f\r />\0", 8), endOfTagName);
@@ -40,8 +45,12 @@ inline constexpr std::array<std::uint8_t, 256> classes = [] {
     return result;
 }();
 
+inline int classOf(char byte) {
+    return classes[static_cast<unsigned char>(byte)];
+}
+
 inline bool isIn(char byte, int classBits) {
-    return (classes[static_cast<unsigned char>(byte)] & classBits) != 0;
+    return (classOf(byte) & classBits) != 0;
 }
 
 /// Bytes of the white space character at the offset, which must lie inside the text; 0 when there is none.

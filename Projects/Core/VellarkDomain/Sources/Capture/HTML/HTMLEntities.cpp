@@ -114,13 +114,24 @@ std::string_view valueOf(const Table::Entry& entry) {
     return {Table::values + entry.valueOffset, entry.valueLength};
 }
 
+// `left < right` in the order of bytes. Names differ within a few letters, which is too little for a call of memcmp.
+bool precedes(std::string_view left, std::string_view right) {
+    const std::size_t common = std::min(left.size(), right.size());
+    std::size_t index = 0;
+    while (index < common && left[index] == right[index]) {
+        ++index;
+    }
+    return index == common ? left.size() < right.size() : left[index] < right[index];
+}
+
 const Table::Entry* findEntry(std::string_view name) {
     if (name.size() < shortestName || name[0] < 'A' || name[0] > 'z') return nullptr;
     const auto initial = static_cast<std::size_t>(name[0] - 'A');
     const Table::Entry* const begin = Table::entries.data() + Table::firstOfInitial[initial];
     const Table::Entry* const end = Table::entries.data() + Table::firstOfInitial[initial + 1];
     const Table::Entry* const found = std::lower_bound(
-        begin, end, name, [](const Table::Entry& entry, std::string_view sought) { return nameOf(entry) < sought; });
+        begin, end, name,
+        [](const Table::Entry& entry, std::string_view sought) { return precedes(nameOf(entry), sought); });
     return found != end && nameOf(*found) == name ? found : nullptr;
 }
 

@@ -6,7 +6,6 @@
 #include <VellarkFoundation/Unicode/UnicodeCase.hpp>
 
 #include <algorithm>
-#include <deque>
 #include <vector>
 
 // One function per construct. Each begins at `position_`, leaves it behind what it read, and answers whether it made an
@@ -112,8 +111,9 @@ private:
     bool emit(EventKind kind, std::string_view text, std::size_t end);
     bool emitUnescaped(std::size_t end);
     bool emitStartTag(bool selfClosing);
+    bool emitEndTag(std::size_t end);
 
-    [[nodiscard]] std::string_view regularEndTagName() const;
+    std::size_t regularEndTag();
     [[nodiscard]] std::size_t matchRawEndTag(std::size_t offset) const;
 
     std::string_view lowered(std::string_view name);
@@ -126,6 +126,7 @@ private:
     std::size_t position_ = 0;
     bool failed_ = false;
     std::string_view rawElement_;  // the open element of raw text, "" outside
+    std::string_view endTagName_;  // of the last regular end tag, as it stands
 
     StartTagScanner startTags_;
     HTMLCharacters::ByteFinder brackets_{'>'};
@@ -135,7 +136,7 @@ private:
 
     Event event_;
     std::vector<Attribute> attributes_;
-    std::deque<std::string> scratch_;  // texts of the current event that differ from the page's
+    std::vector<std::unique_ptr<std::string>> scratch_;  // texts of the current event that differ from the page's
     std::size_t scratchUsed_ = 0;
 };
 
@@ -171,26 +172,31 @@ bool Parser::State::readStartTag() {
 
 // "</", a name and ">" make an end tag, whatever else stands before the ">". Without a name it is a comment.
 bool Parser::State::readEndTag() {
-    const std::size_t bracket = brackets_.find(text_, position_ + 2);
-    if (bracket == npos) return readIncomplete();
-    std::string_view name = regularEndTagName();
     const std::size_t start = position_ + 2;
-    if (name.empty() && isIn(text_[start], HTMLCharacters::letter)) {
-        name = text_.substr(start, HTMLCharacters::findStop(text_, start, HTMLCharacters::endOfTagName) - start);
-    }
-    if (name.empty()) return skipTo(bracket + 1);
-    return emit(EventKind::endTag, lowered(name), bracket + 1);
+    if (const std::size_t end = regularEndTag(); end != npos) return emitEndTag(end);
+    const std::size_t bracket = brackets_.find(text_, start);
+    if (bracket == npos) return readIncomplete();
+    if (!isIn(text_[start], HTMLCharacters::letter)) return skipTo(bracket + 1);
+    const std::size_t nameEnd = HTMLCharacters::findStop(text_, start, HTMLCharacters::endOfTagName);
+    return emit(EventKind::endTag, lowered(text_.substr(start, nameEnd - start)), bracket + 1);
 }
 
-// The name of the end tag at the position when nothing but white space stands around it, otherwise "".
-std::string_view Parser::State::regularEndTagName() const {
+// Offset behind the end tag at the position when it is regular: nothing but white space around the name. `npos`
+// otherwise. The name goes to `endTagName_`.
+std::size_t Parser::State::regularEndTag() {
     const std::size_t start = skipSpaces(text_, position_ + 2);
     std::size_t end = start;
     while (end < text_.size() && isIn(text_[end], HTMLCharacters::endTagName)) {
         ++end;
     }
-    if (end == start || !isIn(text_[start], HTMLCharacters::letter)) return {};
-    return text_.substr(skipSpaces(text_, end)).starts_with('>') ? text_.substr(start, end - start) : "";
+    if (end == start || !isIn(text_[start], HTMLCharacters::letter)) return npos;
+    endTagName_ = text_.substr(start, end - start);
+    const std::size_t bracket = skipSpaces(text_, end);
+    return bracket < text_.size() && text_[bracket] == '>' ? bracket + 1 : npos;
+}
+
+bool Parser::State::emitEndTag(std::size_t end) {
+    return emit(EventKind::endTag, lowered(endTagName_), end);
 }
 
 bool Parser::State::readDeclaration() {
@@ -238,10 +244,9 @@ bool Parser::State::readRawText() {
     }
     if (start == npos) return skipTo(text_.size());
     if (start > position_) return emit(EventKind::data, text_.substr(position_, start - position_), start);
-    const std::string_view name = regularEndTagName();
-    if (name.empty()) return emit(EventKind::data, text_.substr(start, end - start), end);
+    if (regularEndTag() == npos) return emit(EventKind::data, text_.substr(start, end - start), end);
     rawElement_ = {};
-    return emit(EventKind::endTag, lowered(name), end);
+    return emitEndTag(end);
 }
 
 // Offset behind the open raw-text element's end tag when it stands at the offset, otherwise 0.
@@ -297,10 +302,11 @@ bool Parser::State::emitStartTag(bool selfClosing) {
 }
 
 std::string_view Parser::State::lowered(std::string_view name) {
-    const auto changes = [](char byte) {
-        return (byte >= 'A' && byte <= 'Z') || static_cast<unsigned char>(byte) > 127;
-    };
-    if (std::none_of(name.begin(), name.end(), changes)) return name;
+    int classBits = 0;
+    for (const char byte : name) {
+        classBits |= HTMLCharacters::classOf(byte);
+    }
+    if ((classBits & HTMLCharacters::mayLower) == 0) return name;
     std::string& result = scratch();
     if (UTF8::isASCII(name)) {
         std::transform(name.begin(), name.end(), std::back_inserter(result), loweredLetter);
@@ -319,8 +325,8 @@ std::string_view Parser::State::unescaped(std::string_view text) {
 
 // An empty string that stays where it is until the next event.
 std::string& Parser::State::scratch() {
-    if (scratchUsed_ == scratch_.size()) scratch_.emplace_back();
-    std::string& result = scratch_[scratchUsed_++];
+    if (scratchUsed_ == scratch_.size()) scratch_.push_back(std::make_unique<std::string>());
+    std::string& result = *scratch_[scratchUsed_++];
     result.clear();
     return result;
 }

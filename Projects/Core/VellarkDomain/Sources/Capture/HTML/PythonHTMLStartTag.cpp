@@ -10,9 +10,9 @@
 // that is never closed opens no value; then the rules below for `scanValue` apply.
 //
 // A tag that turns out incomplete becomes text, and the walk goes on inside it, where the next tag may run to the end
-// of the page again. To stay linear, a scan notes the places through which it comes. What follows behind a place does
-// not depend on how it was reached, so when a scan fails all its places are doomed, and a later scan stops at the first
-// of them. The finders keep the little that lies between two places cheap.
+// of the page again. What follows behind certain places does not depend on how they were reached. So an incomplete tag
+// is walked once more to doom all places through which it comes, and a later scan stops at the first doomed place: each
+// place is passed in vain twice at most. The finders keep the little that lies between two places cheap.
 
 namespace vellark::PythonHTMLTitle {
 
@@ -21,46 +21,49 @@ using HTMLCharacters::skipSpaces;
 using HTMLCharacters::spaceLength;
 
 StartTagScanner::Outcome StartTagScanner::scan(std::size_t start) {
+    const Outcome outcome = walk(start);
+    if (outcome == Outcome::incomplete) {
+        if (doomed_.empty()) doomed_.resize(2 * (text_.size() + 1));
+        isDooming_ = true;
+        walk(start);
+        isDooming_ = false;
+    }
+    return outcome;
+}
+
+StartTagScanner::Outcome StartTagScanner::walk(std::size_t start) {
     attributes_.clear();
-    path_.clear();
     std::size_t offset = tagNameEnds_.find(text_, start + 1);
     name_ = text_.substr(start + 1, offset - start - 1);
     while (true) {
-        if (!enter(Place::betweenAttributes, offset)) return finishIncomplete();
-        offset = skipSeparators(offset);
-        if (offset == text_.size()) return finishIncomplete();
-        if (text_[offset] == '>') return finish(Outcome::startTag, offset + 1);
-        if (text_[offset] == '/') return finish(Outcome::selfClosingTag, offset + 2);
-        if (!mayBeginName(offset)) {
-            return text_[offset] == '\0' ? finish(Outcome::junk, offset) : finishIncomplete();
+        if (!enter(Place::betweenAttributes, offset)) return Outcome::incomplete;
+        const std::size_t nameStart = skipSeparators(offset);
+        if (nameStart == text_.size()) return Outcome::incomplete;
+        if (text_[nameStart] == '>') return finish(Outcome::startTag, nameStart + 1);
+        if (text_[nameStart] == '/') return finish(Outcome::selfClosingTag, nameStart + 2);
+        if (nameStart == offset && !mayBeginName(offset)) {
+            return text_[offset] == '\0' ? finish(Outcome::junk, offset) : Outcome::incomplete;
         }
-        const std::size_t nameEnd = nameEnds_.find(text_, offset + 1);
-        if (!enter(Place::behindName, nameEnd)) return finishIncomplete();
+        const std::size_t nameEnd = nameEnds_.find(text_, nameStart + 1);
+        if (!enter(Place::behindName, nameEnd)) return Outcome::incomplete;
         RawAttribute& attribute = attributes_.emplace_back();
-        attribute.name = text_.substr(offset, nameEnd - offset);
+        attribute.name = text_.substr(nameStart, nameEnd - nameStart);
         offset = scanValue(nameEnd, attribute);
     }
 }
 
-// Notes that the scan comes through the place; false when no tag can be completed from there.
+// False when no tag can be completed from the place.
 bool StartTagScanner::enter(Place place, std::size_t offset) {
+    if (doomed_.empty()) return true;
     const std::size_t number = 2 * offset + static_cast<std::size_t>(place);
-    if (!doomed_.empty() && doomed_[number]) return false;
-    path_.push_back(number);
+    if (doomed_[number]) return false;
+    if (isDooming_) doomed_[number] = true;
     return true;
 }
 
 StartTagScanner::Outcome StartTagScanner::finish(Outcome outcome, std::size_t end) {
     end_ = end;
     return outcome;
-}
-
-StartTagScanner::Outcome StartTagScanner::finishIncomplete() {
-    if (doomed_.empty()) doomed_.resize(2 * (text_.size() + 1));
-    for (const std::size_t number : path_) {
-        doomed_[number] = true;
-    }
-    return Outcome::incomplete;
 }
 
 std::size_t StartTagScanner::skipSeparators(std::size_t offset) const {
@@ -74,9 +77,11 @@ std::size_t StartTagScanner::skipSeparators(std::size_t offset) const {
     return offset;
 }
 
+// True when a quote or white space stands before the offset. (A tag's name may end in white space that is none of
+// HTML's.)
 bool StartTagScanner::mayBeginName(std::size_t offset) const {
     const char previous = text_[offset - 1];
-    return previous == '/' || previous == '"' || previous == '\'' || endsInSpace(text_, offset);
+    return previous == '"' || previous == '\'' || endsInSpace(text_, offset);
 }
 
 // Reads the value, if there is one, and gives the offset behind it. Before a quote that is never closed,

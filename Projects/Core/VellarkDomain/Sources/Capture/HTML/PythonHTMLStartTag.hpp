@@ -40,9 +40,9 @@ private:
     // The two places in a tag from which all that follows is settled by the offset alone.
     enum class Place : std::uint8_t { betweenAttributes, behindName };
 
+    Outcome walk(std::size_t start);
     bool enter(Place place, std::size_t offset);
     Outcome finish(Outcome outcome, std::size_t end);
-    Outcome finishIncomplete();
     std::size_t skipSeparators(std::size_t offset) const;
     bool mayBeginName(std::size_t offset) const;
     std::size_t scanValue(std::size_t nameEnd, RawAttribute& attribute);
@@ -60,8 +60,8 @@ private:
     HTMLCharacters::ByteFinder doubleQuotes_{'"'};
     HTMLCharacters::ByteFinder singleQuotes_{'\''};
 
-    std::vector<std::size_t> path_;  // the places of the current scan
-    std::vector<bool> doomed_;       // places from which a tag stays incomplete; empty before the first such tag
+    std::vector<bool> doomed_;  // places from which a tag stays incomplete; empty before the first such tag
+    bool isDooming_ = false;    // while the places of an incomplete tag are doomed
 };
 
 }  // namespace vellark::PythonHTMLTitle

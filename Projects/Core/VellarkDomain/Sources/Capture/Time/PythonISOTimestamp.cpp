@@ -2,11 +2,16 @@
 #include <VellarkFoundation/Text/UTF8.hpp>
 
 #include <array>
+#include <bit>
 #include <cstddef>
+#include <cstring>
 
 // The date's form is told by its punctuation alone, which fixes where the separator stands; each part is then read by
 // position. Days are counted from 0001-01-01, which is day 1, so that week dates and calendar dates meet in one number
 // and the hour 24 is the next number.
+//
+// Nearly all moments are written YYYY-MM-DD?HH:MM:SS. That form is read in three words of eight bytes, digits and
+// punctuation tested together; only what is not of that form takes the long way, which knows them all.
 
 namespace vellark::PythonISOTimestamp {
 
@@ -14,8 +19,9 @@ namespace {
 
 constexpr std::int64_t secondsPerDay = 86'400;
 constexpr std::int64_t microsecondsPerSecond = 1'000'000;
-constexpr std::int64_t ordinalOf1970 = 719'163;
-constexpr std::int64_t lastOrdinal = 3'652'059;  // 9999-12-31
+constexpr int ordinalOf1970 = 719'163;
+constexpr int noDay = 0;
+constexpr int lastDay = 3'652'059;  // 9999-12-31
 
 constexpr bool isDigit(char byte) {
     return byte >= '0' && byte <= '9';
@@ -32,29 +38,38 @@ constexpr int digits(std::string_view text, std::size_t offset, std::size_t coun
     return valid ? value : -1;
 }
 
+// Moments come in no order that a processor could foresee, so the calendar is table look-ups with few branches, and a
+// missing value is a value of its own until the end.
+
+// A year that 25 divides is a leap year when 16 divides it, any other when 4 does.
 constexpr bool isLeapYear(int year) {
-    return year % 4 == 0 && (year % 100 != 0 || year % 400 == 0);
+    const int rest = year % 25 == 0 ? 15 : 3;
+    return (year & rest) == 0;
 }
 
-constexpr int daysInMonth(int year, int month) {
-    constexpr std::array<int, 13> days = {0, 31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-    return month == 2 && isLeapYear(year) ? 29 : days[static_cast<std::size_t>(month)];
-}
+// Days of the year before each month, and at last of the whole year; the first row is that of common years.
+constexpr std::array<std::array<int, 14>, 2> daysBefore = {{
+    {0, 0, 31, 59, 90, 120, 151, 181, 212, 243, 273, 304, 334, 365},
+    {0, 0, 31, 60, 91, 121, 152, 182, 213, 244, 274, 305, 335, 366},
+}};
 
 constexpr int daysBeforeYear(int year) {
     const int past = year - 1;
     return past * 365 + past / 4 - past / 100 + past / 400;
 }
 
+// The ordinal of a day; `noDay` when no calendar has it.
 constexpr int ordinal(int year, int month, int day) {
-    constexpr std::array<int, 13> before = {0, 0, 31, 59, 90, 120, 151, 181, 212, 243, 273, 304, 334};
-    const int leapDay = month > 2 && isLeapYear(year) ? 1 : 0;
-    return daysBeforeYear(year) + before[static_cast<std::size_t>(month)] + leapDay + day;
+    if (year < 1 || month < 1 || month > 12 || day < 1) return noDay;
+    const auto& before = daysBefore[isLeapYear(year) ? 1 : 0];
+    const auto index = static_cast<std::size_t>(month);
+    if (day > before[index + 1] - before[index]) return noDay;
+    return daysBeforeYear(year) + before[index] + day;
 }
 
 // Monday of the year's first week, which is the one that holds January 4. Day 1 was a Monday.
 constexpr int firstMonday(int year) {
-    const int fourth = ordinal(year, 1, 4);
+    const int fourth = daysBeforeYear(year) + 4;
     return fourth - (fourth - 1) % 7;
 }
 
@@ -76,35 +91,34 @@ std::size_t separatorLocation(std::string_view text) {
     return end % 2 == 0 ? 7 : 8;
 }
 
-std::optional<int> calendarDate(std::string_view date, int year) {
+int calendarDate(std::string_view date, int year) {
     const bool extended = date.size() == 10;
-    if (extended && date[7] != '-') return std::nullopt;
+    if (extended && date[7] != '-') return noDay;
     const int month = digits(date, extended ? 5 : 4, 2);
     const int day = digits(date, extended ? 8 : 6, 2);
-    if (month < 1 || month > 12 || day < 1 || day > daysInMonth(year, month)) return std::nullopt;
     return ordinal(year, month, day);
 }
 
-std::optional<int> isoWeekDate(std::string_view date, int year) {
+int isoWeekDate(std::string_view date, int year) {
     const bool extended = date[4] == '-';
     const std::size_t weekOffset = extended ? 6 : 5;
     std::size_t dayOffset = weekOffset + 2;
     int day = 1;
     if (date.size() > dayOffset) {
-        if (extended && date[dayOffset++] != '-') return std::nullopt;
+        if (extended && date[dayOffset++] != '-') return noDay;
         day = digits(date, dayOffset, 1);
     }
     const int week = digits(date, weekOffset, 2);
     const int monday = firstMonday(year);
     const int weeks = (firstMonday(year + 1) - monday) / 7;
-    if (week < 1 || week > weeks || day < 1 || day > 7) return std::nullopt;
+    if (week < 1 || week > weeks || day < 1 || day > 7) return noDay;
     return monday + (week - 1) * 7 + day - 1;
 }
 
 // The day's ordinal, for a date that ends where `separatorLocation` says.
-std::optional<int> readDate(std::string_view date) {
+int readDate(std::string_view date) {
     const int year = digits(date, 0, 4);
-    if (year < 1) return std::nullopt;
+    if (year < 1) return noDay;
     const bool isWeek = date[4] == 'W' || (date[4] == '-' && date[5] == 'W');
     return isWeek ? isoWeekDate(date, year) : calendarDate(date, year);
 }
@@ -160,44 +174,118 @@ struct ClockReader {
     }
 };
 
-// Days that the time of day adds to its date, 0 or 1; nothing for a time that no clock shows.
-std::optional<int> daysOf(const Clock& time) {
-    if (time.minute > 59 || time.second > 59 || time.hour > 24) return std::nullopt;
-    if (time.hour < 24) return 0;
-    if (time.minute != 0 || time.second != 0 || time.microsecond != 0) return std::nullopt;
-    return 1;
+// Eight characters of which some are digits, as a word: the byte of the first one is the lowest. A digit's byte holds
+// its value, any other is 0.
+class DigitWord {
+public:
+    // What each of the eight characters must be: '0' for any digit, '?' for any ASCII character, else itself.
+    struct Pattern {
+        std::uint64_t expected = 0;
+        std::uint64_t overflow = 0;  // added to what differs from `expected`, reaches 0x10 in a byte that does not fit
+        std::uint64_t kept = 0;      // bytes that are digits
+        std::uint64_t open = 0;      // bits that may differ at will
+
+        consteval explicit Pattern(std::string_view form) {
+            for (std::size_t index = 0; index < 8; ++index) {
+                const std::uint64_t at = 8 * index;
+                const bool isAny = form[index] == '?';
+                expected |= (isAny ? 0 : static_cast<std::uint64_t>(form[index])) << at;
+                overflow |= (isAny ? 0 : form[index] == '0' ? 0x06ULL : 0x0FULL) << at;
+                kept |= (form[index] == '0' ? 0xFFULL : 0) << at;
+                open |= (isAny ? 0x7FULL : 0) << at;
+            }
+        }
+    };
+
+    // False when the characters do not fit the pattern.
+    bool read(const char* characters, const Pattern& pattern) {
+        std::uint64_t word = 0;
+        std::memcpy(&word, characters, sizeof word);
+        const std::uint64_t difference = (word ^ pattern.expected) & ~pattern.open;
+        constexpr std::uint64_t highNibbles = 0xF0F0F0F0F0F0F0F0;
+        if (((difference | (difference + pattern.overflow)) & highNibbles) != 0) return false;
+        const std::uint64_t values = difference & pattern.kept;
+        pairs_ = values * 10 + (values >> 8);
+        return true;
+    }
+
+    // The number that the digits at the index and behind it make.
+    [[nodiscard]] int pair(int index) const { return static_cast<int>((pairs_ >> (8 * index)) & 0xFF); }
+
+private:
+    std::uint64_t pairs_ = 0;
+};
+
+struct Moment {
+    int day = noDay;
+    Clock time;
+    std::string_view offset;
+};
+
+// Reads the common form; false when the text is not of it.
+bool readCommonForm(std::string_view text, Moment& moment) {
+    constexpr std::size_t length = 19;
+    if (std::endian::native != std::endian::little || text.size() <= length) return false;
+    static constexpr DigitWord::Pattern datePattern("0000-00-");
+    static constexpr DigitWord::Pattern middlePattern("00?00:00");
+    static constexpr DigitWord::Pattern endPattern("0:00:00?");
+    DigitWord date;
+    DigitWord middle;
+    DigitWord end;
+    if (!date.read(text.data(), datePattern) || !middle.read(text.data() + 8, middlePattern) ||
+        !end.read(text.data() + 12, endPattern)) {
+        return false;
+    }
+    ClockReader rest{text.substr(length)};
+    moment.time = {middle.pair(3), middle.pair(6), end.pair(5), 0};
+    if (!rest.readFraction(moment.time.microsecond)) return false;
+    moment.day = ordinal(date.pair(0) * 100 + date.pair(2), date.pair(5), middle.pair(0));
+    moment.offset = rest.rest;
+    return true;
 }
 
-// The offset from UTC in microseconds. It must take up the text to its end.
-std::optional<std::int64_t> readOffset(ClockReader reader) {
-    if (reader.rest == "Z") return 0;
+bool readAnyForm(std::string_view text, Moment& moment) {
+    constexpr std::size_t shortest = 11;  // "2026W01T00Z"
+    if (text.size() < shortest) return false;
+    const std::size_t separator = separatorLocation(text);
+    ClockReader reader{text.substr(separator + UTF8::decode(text, separator).byteCount)};
+    moment.time = {};
+    if (!reader.read(moment.time)) return false;
+    moment.day = readDate(text.substr(0, separator));
+    moment.offset = reader.rest;
+    return true;
+}
+
+// True for a time of day on the day, hour 24 being its end. The last day has no such end, as no day follows it.
+bool isOnDay(const Clock& time, int day) {
+    if (time.minute > 59 || time.second > 59 || time.hour > 24) return false;
+    if (time.hour < 24) return true;
+    return time.minute == 0 && time.second == 0 && time.microsecond == 0 && day < lastDay;
+}
+
+// Reads the offset from UTC in microseconds, which must take up the text to its end.
+bool readOffset(std::string_view text, std::int64_t& offset) {
+    if (text == "Z" || text == "+00:00") return true;
+    ClockReader reader{text};
     const bool negative = reader.skip('-');
-    if (!negative && !reader.skip('+')) return std::nullopt;
-    Clock offset;
-    if (!reader.read(offset) || !reader.rest.empty()) return std::nullopt;
-    const std::int64_t distance = offset.microseconds();
-    if (distance >= secondsPerDay * microsecondsPerSecond) return std::nullopt;
-    return negative ? -distance : distance;
+    if (!negative && !reader.skip('+')) return false;
+    Clock clock;
+    if (!reader.read(clock) || !reader.rest.empty()) return false;
+    offset = negative ? -clock.microseconds() : clock.microseconds();
+    return clock.microseconds() < secondsPerDay * microsecondsPerSecond;
 }
 
 }  // namespace
 
-std::optional<std::int64_t> microseconds(std::string_view text) {
-    constexpr std::size_t shortest = 11;  // "2026W01T00Z"
-    if (text.size() < shortest) return std::nullopt;
-    const std::size_t separator = separatorLocation(text);
-    const std::optional<int> day = readDate(text.substr(0, separator));
-    if (!day) return std::nullopt;
-
-    ClockReader reader{text.substr(separator + UTF8::decode(text, separator).byteCount)};
-    Clock time;
-    if (!reader.read(time)) return std::nullopt;
-    const std::optional<int> daysAhead = daysOf(time);
-    const std::optional<std::int64_t> offset = readOffset(reader);
-    if (!daysAhead || !offset || *day + *daysAhead > lastOrdinal) return std::nullopt;
-
-    const std::int64_t days = *day - ordinalOf1970;
-    return days * secondsPerDay * microsecondsPerSecond + time.microseconds() - *offset;
+bool readMicroseconds(std::string_view text, std::int64_t& value) {
+    Moment moment;
+    std::int64_t offset = 0;
+    if (!readCommonForm(text, moment) && !readAnyForm(text, moment)) return false;
+    if (moment.day == noDay || moment.day > lastDay || !isOnDay(moment.time, moment.day)) return false;
+    if (!readOffset(moment.offset, offset)) return false;
+    const std::int64_t days = moment.day - ordinalOf1970;
+    value = days * secondsPerDay * microsecondsPerSecond + moment.time.microseconds() - offset;
+    return true;
 }
 
 }  // namespace vellark::PythonISOTimestamp
