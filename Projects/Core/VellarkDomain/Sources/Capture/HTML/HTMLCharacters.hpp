@@ -86,33 +86,45 @@ inline std::size_t skipSpacesBack(std::string_view text, std::size_t offset) {
     return offset;
 }
 
-/// Offset of the next byte of the classes, or white space when `classBits` hold `space`; the text's end without one.
-inline std::size_t findStop(std::string_view text, std::size_t offset, int classBits) {
+/// A run of characters: where it stops, and the bits of all classes that occur in it.
+struct Run {
+    std::size_t stop = 0;
+    int seen = 0;
+};
+
+/// The run from the offset to the next byte of the classes, white space beyond ASCII included when `classBits` hold
+/// `space`; to the text's end without one.
+inline Run findRun(std::string_view text, std::size_t offset, int classBits) {
     const int interesting = (classBits & space) != 0 ? classBits | leadOfSpace : classBits;
+    int seen = 0;
     for (; offset < text.size(); ++offset) {
-        if (!isIn(text[offset], interesting)) continue;
-        if (isIn(text[offset], classBits) || spaceLength(text, offset) > 0) break;
+        const int byteClass = classOf(text[offset]);
+        if ((byteClass & interesting) != 0) {
+            if ((byteClass & classBits) != 0 || spaceLength(text, offset) > 0) break;
+        }
+        seen |= byteClass;
     }
-    return offset;
+    return {offset, seen};
 }
 
-/// `findStop` that remembers its last answer, so that searches from many places inside one run cost one walk.
-class StopFinder {
+/// `findRun` that remembers its last answer, so that searches from many places inside one run cost one walk. What it
+/// has then seen may stand before the offset.
+class RunFinder {
 public:
-    explicit StopFinder(int classBits) : classBits_(classBits) {}
+    explicit RunFinder(int classBits) : classBits_(classBits) {}
 
-    std::size_t find(std::string_view text, std::size_t offset) {
-        if (offset < from_ || offset > stop_) {
-            stop_ = findStop(text, offset, classBits_);
+    Run find(std::string_view text, std::size_t offset) {
+        if (offset < from_ || offset > run_.stop) {
+            run_ = findRun(text, offset, classBits_);
             from_ = offset;
         }
-        return stop_;
+        return run_;
     }
 
 private:
     int classBits_;
-    std::size_t from_ = 1;  // with from_ > stop_ nothing is remembered
-    std::size_t stop_ = 0;
+    std::size_t from_ = 1;  // behind the run's stop at first: nothing is remembered
+    Run run_;
 };
 
 /// Search for one byte that remembers from where on there is none, so that hostile pages cannot make it walk to the end

@@ -83,7 +83,9 @@ public:
         : repaired_(UTF8::isValid(html) ? std::string() : UTF8::replacingInvalid(html)),
           text_(repaired_.empty() ? html : repaired_),
           rawText_(rawText),
-          startTags_(text_) {}
+          startTags_(text_) {
+        attributes_.reserve(StartTagScanner::usualAttributeCount);
+    }
 
     const Event* next() {
         while (position_ < text_.size()) {
@@ -116,7 +118,7 @@ private:
     std::size_t regularEndTag();
     [[nodiscard]] std::size_t matchRawEndTag(std::size_t offset) const;
 
-    std::string_view lowered(std::string_view name);
+    std::string_view lowered(std::string_view name, bool mayLower);
     std::string_view unescaped(std::string_view text);
     std::string& scratch();
 
@@ -126,7 +128,8 @@ private:
     std::size_t position_ = 0;
     bool failed_ = false;
     std::string_view rawElement_;  // the open element of raw text, "" outside
-    std::string_view endTagName_;  // of the last regular end tag, as it stands
+    std::string_view endTagName_;  // of the last end tag, as it stands
+    int endTagClasses_ = 0;        // what occurs in it
 
     StartTagScanner startTags_;
     HTMLCharacters::ByteFinder brackets_{'>'};
@@ -177,17 +180,20 @@ bool Parser::State::readEndTag() {
     const std::size_t bracket = brackets_.find(text_, start);
     if (bracket == npos) return readIncomplete();
     if (!isIn(text_[start], HTMLCharacters::letter)) return skipTo(bracket + 1);
-    const std::size_t nameEnd = HTMLCharacters::findStop(text_, start, HTMLCharacters::endOfTagName);
-    return emit(EventKind::endTag, lowered(text_.substr(start, nameEnd - start)), bracket + 1);
+    const HTMLCharacters::Run run = HTMLCharacters::findRun(text_, start, HTMLCharacters::endOfTagName);
+    endTagName_ = text_.substr(start, run.stop - start);
+    endTagClasses_ = run.seen;
+    return emitEndTag(bracket + 1);
 }
 
 // Offset behind the end tag at the position when it is regular: nothing but white space around the name. `npos`
-// otherwise. The name goes to `endTagName_`.
+// otherwise. The name goes to `endTagName_` and
+// `endTagClasses_`.
 std::size_t Parser::State::regularEndTag() {
     const std::size_t start = skipSpaces(text_, position_ + 2);
     std::size_t end = start;
-    while (end < text_.size() && isIn(text_[end], HTMLCharacters::endTagName)) {
-        ++end;
+    for (endTagClasses_ = 0; end < text_.size() && isIn(text_[end], HTMLCharacters::endTagName); ++end) {
+        endTagClasses_ |= HTMLCharacters::classOf(text_[end]);
     }
     if (end == start || !isIn(text_[start], HTMLCharacters::letter)) return npos;
     endTagName_ = text_.substr(start, end - start);
@@ -196,7 +202,7 @@ std::size_t Parser::State::regularEndTag() {
 }
 
 bool Parser::State::emitEndTag(std::size_t end) {
-    return emit(EventKind::endTag, lowered(endTagName_), end);
+    return emit(EventKind::endTag, lowered(endTagName_, (endTagClasses_ & HTMLCharacters::mayLower) != 0), end);
 }
 
 bool Parser::State::readDeclaration() {
@@ -290,10 +296,11 @@ bool Parser::State::emitStartTag(bool selfClosing) {
     attributes_.clear();
     for (const StartTagScanner::RawAttribute& raw : startTags_.attributes()) {
         Attribute& attribute = attributes_.emplace_back();
-        attribute.name = lowered(raw.name);
+        attribute.name = lowered(raw.name, raw.mayLower);
         if (raw.hasValue) attribute.value = unescaped(raw.value);
     }
-    emit(selfClosing ? EventKind::selfClosingTag : EventKind::startTag, lowered(startTags_.name()), startTags_.end());
+    emit(selfClosing ? EventKind::selfClosingTag : EventKind::startTag,
+         lowered(startTags_.name(), startTags_.mayLowerName()), startTags_.end());
     event_.attributes = attributes_;
     if (selfClosing) return true;
     const auto element = std::find(rawText_.begin(), rawText_.end(), event_.text);
@@ -301,12 +308,9 @@ bool Parser::State::emitStartTag(bool selfClosing) {
     return true;
 }
 
-std::string_view Parser::State::lowered(std::string_view name) {
-    int classBits = 0;
-    for (const char byte : name) {
-        classBits |= HTMLCharacters::classOf(byte);
-    }
-    if ((classBits & HTMLCharacters::mayLower) == 0) return name;
+// `mayLower` spares the look at a name that is known to be lower-case ASCII.
+std::string_view Parser::State::lowered(std::string_view name, bool mayLower) {
+    if (!mayLower) return name;
     std::string& result = scratch();
     if (UTF8::isASCII(name)) {
         std::transform(name.begin(), name.end(), std::back_inserter(result), loweredLetter);

@@ -33,8 +33,10 @@ StartTagScanner::Outcome StartTagScanner::scan(std::size_t start) {
 
 StartTagScanner::Outcome StartTagScanner::walk(std::size_t start) {
     attributes_.clear();
-    std::size_t offset = tagNameEnds_.find(text_, start + 1);
-    name_ = text_.substr(start + 1, offset - start - 1);
+    const HTMLCharacters::Run tagName = tagNameEnds_.find(text_, start + 1);
+    name_ = text_.substr(start + 1, tagName.stop - start - 1);
+    mayLowerName_ = (tagName.seen & HTMLCharacters::mayLower) != 0;
+    std::size_t offset = tagName.stop;
     while (true) {
         if (!enter(Place::betweenAttributes, offset)) return Outcome::incomplete;
         const std::size_t nameStart = skipSeparators(offset);
@@ -44,11 +46,12 @@ StartTagScanner::Outcome StartTagScanner::walk(std::size_t start) {
         if (nameStart == offset && !mayBeginName(offset)) {
             return text_[offset] == '\0' ? finish(Outcome::junk, offset) : Outcome::incomplete;
         }
-        const std::size_t nameEnd = nameEnds_.find(text_, nameStart + 1);
-        if (!enter(Place::behindName, nameEnd)) return Outcome::incomplete;
+        const HTMLCharacters::Run name = nameEnds_.find(text_, nameStart + 1);
+        if (!enter(Place::behindName, name.stop)) return Outcome::incomplete;
         RawAttribute& attribute = attributes_.emplace_back();
-        attribute.name = text_.substr(nameStart, nameEnd - nameStart);
-        offset = scanValue(nameEnd, attribute);
+        attribute.name = text_.substr(nameStart, name.stop - nameStart);
+        attribute.mayLower = ((name.seen | HTMLCharacters::classOf(text_[nameStart])) & HTMLCharacters::mayLower) != 0;
+        offset = scanValue(name.stop, attribute);
     }
 }
 
@@ -116,7 +119,7 @@ std::size_t StartTagScanner::scanQuoted(std::size_t quote, RawAttribute& attribu
 }
 
 std::size_t StartTagScanner::scanBare(std::size_t start, RawAttribute& attribute) {
-    const std::size_t end = bareEnds_.find(text_, start);
+    const std::size_t end = bareEnds_.find(text_, start).stop;
     attribute.value = text_.substr(start, end - start);
     return end;
 }

@@ -12,6 +12,8 @@ namespace vellark::PythonHTMLTitle {
 /// Finds where start tags end, and their attributes. It serves one page, from front to back.
 class StartTagScanner {
 public:
+    static constexpr std::size_t usualAttributeCount = 8;
+
     enum class Outcome {
         startTag,
         selfClosingTag,
@@ -24,15 +26,17 @@ public:
         std::string_view name;
         std::string_view value;
         bool hasValue = false;
+        bool mayLower = false;  // false: the name is lower-case already
     };
 
-    explicit StartTagScanner(std::string_view text) : text_(text) {}
+    explicit StartTagScanner(std::string_view text) : text_(text) { attributes_.reserve(usualAttributeCount); }
 
     /// Scans the tag whose "<" stands at the offset, a letter behind it. Unless the tag is incomplete, `name`,
     /// `attributes` and `end` then tell about it.
     Outcome scan(std::size_t start);
 
     [[nodiscard]] std::string_view name() const { return name_; }
+    [[nodiscard]] bool mayLowerName() const { return mayLowerName_; }
     [[nodiscard]] const std::vector<RawAttribute>& attributes() const { return attributes_; }
     [[nodiscard]] std::size_t end() const { return end_; }
 
@@ -51,12 +55,13 @@ private:
 
     std::string_view text_;
     std::string_view name_;
+    bool mayLowerName_ = false;
     std::vector<RawAttribute> attributes_;
     std::size_t end_ = 0;
 
-    HTMLCharacters::StopFinder tagNameEnds_{HTMLCharacters::endOfTagName};
-    HTMLCharacters::StopFinder nameEnds_{HTMLCharacters::space | HTMLCharacters::endOfName};
-    HTMLCharacters::StopFinder bareEnds_{HTMLCharacters::space | HTMLCharacters::endOfBareValue};
+    HTMLCharacters::RunFinder tagNameEnds_{HTMLCharacters::endOfTagName};
+    HTMLCharacters::RunFinder nameEnds_{HTMLCharacters::space | HTMLCharacters::endOfName};
+    HTMLCharacters::RunFinder bareEnds_{HTMLCharacters::space | HTMLCharacters::endOfBareValue};
     HTMLCharacters::ByteFinder doubleQuotes_{'"'};
     HTMLCharacters::ByteFinder singleQuotes_{'\''};
 
