@@ -1,7 +1,7 @@
 // The HTML event parser on real pages, beside a mere check that the same bytes are UTF-8, and on pages made to hurt it:
 // those must take at most about twice as long at twice the size.
 //
-// The pages are the files of the folder that VELLARK_PAGES names; from the root of the tree, those of the tests.
+// The pages are those of the tests, in the folder VELLARK_PAGES.
 
 #include <VellarkDomain/Capture/HTML/PythonHTMLTitle.hpp>
 #include <VellarkFoundation/Text/UTF8.hpp>
@@ -9,7 +9,6 @@
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -23,10 +22,8 @@ namespace {
 using vellark::PythonHTMLTitle::Parser;
 
 std::vector<std::string> pages() {
-    const char* const named = std::getenv("VELLARK_PAGES");
     std::vector<std::filesystem::path> paths;
-    for (const auto& entry : std::filesystem::directory_iterator(
-             named != nullptr ? named : "Projects/Core/VellarkDomain/Tests/Data/HTML")) {
+    for (const auto& entry : std::filesystem::directory_iterator(VELLARK_PAGES)) {
         paths.push_back(entry.path());
     }
     std::sort(paths.begin(), paths.end());
