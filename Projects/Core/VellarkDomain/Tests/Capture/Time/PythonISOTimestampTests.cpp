@@ -211,7 +211,8 @@ TEST(PythonISOTimestamp, agreesWithPython) {
         readCount += value ? 1 : 0;
         return value ? std::to_string(*value) : std::string();
     });
-    if (!IsSkipped()) EXPECT_GT(readCount, cases.size() / 5);
+    if (IsSkipped()) return;
+    EXPECT_GT(readCount, cases.size() / 5);
 }
 
 }  // namespace
