@@ -1,0 +1,291 @@
+#include <VellarkDomain/Capture/Time/PythonISOTimestamp.hpp>
+#include <VellarkFoundation/Text/UTF8.hpp>
+
+#include <array>
+#include <bit>
+#include <cstddef>
+#include <cstring>
+
+// The date's form is told by its punctuation alone, which fixes where the separator stands; each part is then read by
+// position. Days are counted from 0001-01-01, which is day 1, so that week dates and calendar dates meet in one number
+// and the hour 24 is the next number.
+//
+// Nearly all moments are written YYYY-MM-DD?HH:MM:SS. That form is read in three words of eight bytes, digits and
+// punctuation tested together; only what is not of that form takes the long way, which knows them all.
+
+namespace vellark::PythonISOTimestamp {
+
+namespace {
+
+constexpr std::int64_t secondsPerDay = 86'400;
+constexpr std::int64_t microsecondsPerSecond = 1'000'000;
+constexpr int ordinalOf1970 = 719'163;
+constexpr int noDay = 0;
+constexpr int lastDay = 3'652'059;  // 9999-12-31
+
+constexpr bool isDigit(char byte) {
+    return byte >= '0' && byte <= '9';
+}
+
+// The number that `count` digits at the offset make; -1 when one of them is none. The caller sees to the bounds.
+constexpr int digits(std::string_view text, std::size_t offset, std::size_t count) {
+    int value = 0;
+    bool valid = true;
+    for (std::size_t index = offset; index < offset + count; ++index) {
+        valid &= isDigit(text[index]);
+        value = value * 10 + (text[index] - '0');
+    }
+    return valid ? value : -1;
+}
+
+// Moments come in no order that a processor could foresee, so the calendar is table look-ups with few branches, and a
+// missing value is a value of its own until the end.
+
+// A year that 25 divides is a leap year when 16 divides it, any other when 4 does.
+constexpr bool isLeapYear(int year) {
+    const int rest = year % 25 == 0 ? 15 : 3;
+    return (year & rest) == 0;
+}
+
+// Days of the year before each month, and at last of the whole year; the first row is that of common years.
+constexpr std::array<std::array<int, 14>, 2> daysBefore = {{
+    {0, 0, 31, 59, 90, 120, 151, 181, 212, 243, 273, 304, 334, 365},
+    {0, 0, 31, 60, 91, 121, 152, 182, 213, 244, 274, 305, 335, 366},
+}};
+
+constexpr int daysBeforeYear(int year) {
+    const int past = year - 1;
+    return past * 365 + past / 4 - past / 100 + past / 400;
+}
+
+// The ordinal of a day; `noDay` when no calendar has it.
+constexpr int ordinal(int year, int month, int day) {
+    if (year < 1 || month < 1 || month > 12 || day < 1) return noDay;
+    const auto& before = daysBefore[isLeapYear(year) ? 1 : 0];
+    const auto index = static_cast<std::size_t>(month);
+    if (day > before[index + 1] - before[index]) return noDay;
+    return daysBeforeYear(year) + before[index] + day;
+}
+
+// Monday of the year's first week, which is the one that holds January 4. Day 1 was a Monday.
+constexpr int firstMonday(int year) {
+    const int fourth = daysBeforeYear(year) + 4;
+    return fourth - (fourth - 1) % 7;
+}
+
+// Byte offset of the separator, which is where the date ends. Where a week date leaves it open whether a digit or a
+// hyphen belongs to the date, the choice is CPython's.
+std::size_t separatorLocation(std::string_view text) {
+    const auto isDigitAt = [&](std::size_t offset) { return offset < text.size() && isDigit(text[offset]); };
+    if (text[4] == '-') {
+        if (text[5] != 'W') return 10;
+        const bool hasDay = text.size() > 8 && text[8] == '-' && !isDigitAt(10);
+        return hasDay ? 10 : 8;
+    }
+    if (text[4] != 'W') return 8;
+    std::size_t end = 7;
+    while (isDigitAt(end)) {
+        ++end;
+    }
+    if (end < 9) return end;
+    return end % 2 == 0 ? 7 : 8;
+}
+
+int calendarDate(std::string_view date, int year) {
+    const bool extended = date.size() == 10;
+    if (extended && date[7] != '-') return noDay;
+    const int month = digits(date, extended ? 5 : 4, 2);
+    const int day = digits(date, extended ? 8 : 6, 2);
+    return ordinal(year, month, day);
+}
+
+int isoWeekDate(std::string_view date, int year) {
+    const bool extended = date[4] == '-';
+    const std::size_t weekOffset = extended ? 6 : 5;
+    std::size_t dayOffset = weekOffset + 2;
+    int day = 1;
+    if (date.size() > dayOffset) {
+        if (extended && date[dayOffset++] != '-') return noDay;
+        day = digits(date, dayOffset, 1);
+    }
+    const int week = digits(date, weekOffset, 2);
+    const int monday = firstMonday(year);
+    const int weeks = (firstMonday(year + 1) - monday) / 7;
+    if (week < 1 || week > weeks || day < 1 || day > 7) return noDay;
+    return monday + (week - 1) * 7 + day - 1;
+}
+
+// The day's ordinal, for a date that ends where `separatorLocation` says.
+int readDate(std::string_view date) {
+    const int year = digits(date, 0, 4);
+    if (year < 1) return noDay;
+    const bool isWeek = date[4] == 'W' || (date[4] == '-' && date[5] == 'W');
+    return isWeek ? isoWeekDate(date, year) : calendarDate(date, year);
+}
+
+struct Clock {
+    int hour = 0;
+    int minute = 0;
+    int second = 0;
+    int microsecond = 0;
+
+    [[nodiscard]] std::int64_t microseconds() const {
+        return ((hour * 60LL + minute) * 60 + second) * microsecondsPerSecond + microsecond;
+    }
+};
+
+// Reads text from the front; every step leaves `rest` behind what it read, and answers false on what it cannot read.
+struct ClockReader {
+    std::string_view rest;
+
+    bool readPair(int& value) {
+        if (rest.size() < 2) return false;
+        value = digits(rest, 0, 2);
+        rest.remove_prefix(2);
+        return value >= 0;
+    }
+
+    bool startsWithDigit() const { return !rest.empty() && isDigit(rest.front()); }
+
+    bool skip(char byte) {
+        if (rest.empty() || rest.front() != byte) return false;
+        rest.remove_prefix(1);
+        return true;
+    }
+
+    bool readFraction(int& microsecond) {
+        if (!skip('.') && !skip(',')) return true;
+        if (!startsWithDigit()) return false;
+        int scale = 100'000;
+        for (; startsWithDigit(); rest.remove_prefix(1)) {
+            microsecond += (rest.front() - '0') * scale;
+            scale /= 10;
+        }
+        return true;
+    }
+
+    bool read(Clock& clock) {
+        if (!readPair(clock.hour)) return false;
+        const bool extended = skip(':');
+        if (!extended && !startsWithDigit()) return true;
+        if (!readPair(clock.minute)) return false;
+        if (extended ? !skip(':') : !startsWithDigit()) return true;
+        return readPair(clock.second) && readFraction(clock.microsecond);
+    }
+};
+
+// Eight characters of which some are digits, as a word: the byte of the first one is the lowest. A digit's byte holds
+// its value, any other is 0.
+class DigitWord {
+public:
+    // What each of the eight characters must be: '0' for any digit, '?' for any ASCII character, else itself.
+    struct Pattern {
+        std::uint64_t expected = 0;
+        std::uint64_t overflow = 0;  // added to what differs from `expected`, reaches 0x10 in a byte that does not fit
+        std::uint64_t kept = 0;      // bytes that are digits
+        std::uint64_t open = 0;      // bits that may differ at will
+
+        consteval explicit Pattern(std::string_view form) {
+            for (std::size_t index = 0; index < 8; ++index) {
+                const std::uint64_t at = 8 * index;
+                const bool isAny = form[index] == '?';
+                expected |= (isAny ? 0 : static_cast<std::uint64_t>(form[index])) << at;
+                overflow |= (isAny ? 0 : form[index] == '0' ? 0x06ULL : 0x0FULL) << at;
+                kept |= (form[index] == '0' ? 0xFFULL : 0) << at;
+                open |= (isAny ? 0x7FULL : 0) << at;
+            }
+        }
+    };
+
+    // False when the characters do not fit the pattern.
+    bool read(const char* characters, const Pattern& pattern) {
+        std::uint64_t word = 0;
+        std::memcpy(&word, characters, sizeof word);
+        const std::uint64_t difference = (word ^ pattern.expected) & ~pattern.open;
+        constexpr std::uint64_t highNibbles = 0xF0F0F0F0F0F0F0F0;
+        if (((difference | (difference + pattern.overflow)) & highNibbles) != 0) return false;
+        const std::uint64_t values = difference & pattern.kept;
+        pairs_ = values * 10 + (values >> 8);
+        return true;
+    }
+
+    // The number that the digits at the index and behind it make.
+    [[nodiscard]] int pair(int index) const { return static_cast<int>((pairs_ >> (8 * index)) & 0xFF); }
+
+private:
+    std::uint64_t pairs_ = 0;
+};
+
+struct Moment {
+    int day = noDay;
+    Clock time;
+    std::string_view offset;
+};
+
+// Reads the common form; false when the text is not of it.
+bool readCommonForm(std::string_view text, Moment& moment) {
+    constexpr std::size_t length = 19;
+    if (std::endian::native != std::endian::little || text.size() <= length) return false;
+    static constexpr DigitWord::Pattern datePattern("0000-00-");
+    static constexpr DigitWord::Pattern middlePattern("00?00:00");
+    static constexpr DigitWord::Pattern endPattern("0:00:00?");
+    DigitWord date;
+    DigitWord middle;
+    DigitWord end;
+    if (!date.read(text.data(), datePattern) || !middle.read(text.data() + 8, middlePattern) ||
+        !end.read(text.data() + 12, endPattern)) {
+        return false;
+    }
+    ClockReader rest{text.substr(length)};
+    moment.time = {middle.pair(3), middle.pair(6), end.pair(5), 0};
+    if (!rest.readFraction(moment.time.microsecond)) return false;
+    moment.day = ordinal(date.pair(0) * 100 + date.pair(2), date.pair(5), middle.pair(0));
+    moment.offset = rest.rest;
+    return true;
+}
+
+bool readAnyForm(std::string_view text, Moment& moment) {
+    constexpr std::size_t shortest = 11;  // "2026W01T00Z"
+    if (text.size() < shortest) return false;
+    const std::size_t separator = separatorLocation(text);
+    ClockReader reader{text.substr(separator + UTF8::decode(text, separator).byteCount)};
+    moment.time = {};
+    if (!reader.read(moment.time)) return false;
+    moment.day = readDate(text.substr(0, separator));
+    moment.offset = reader.rest;
+    return true;
+}
+
+// True for a time of day on the day, hour 24 being its end. The last day has no such end, as no day follows it.
+bool isOnDay(const Clock& time, int day) {
+    if (time.minute > 59 || time.second > 59 || time.hour > 24) return false;
+    if (time.hour < 24) return true;
+    return time.minute == 0 && time.second == 0 && time.microsecond == 0 && day < lastDay;
+}
+
+// Reads the offset from UTC in microseconds, which must take up the text to its end.
+bool readOffset(std::string_view text, std::int64_t& offset) {
+    if (text == "Z" || text == "+00:00") return true;
+    ClockReader reader{text};
+    const bool negative = reader.skip('-');
+    if (!negative && !reader.skip('+')) return false;
+    Clock clock;
+    if (!reader.read(clock) || !reader.rest.empty()) return false;
+    offset = negative ? -clock.microseconds() : clock.microseconds();
+    return clock.microseconds() < secondsPerDay * microsecondsPerSecond;
+}
+
+}  // namespace
+
+bool readMicroseconds(std::string_view text, std::int64_t& value) {
+    Moment moment;
+    std::int64_t offset = 0;
+    if (!readCommonForm(text, moment) && !readAnyForm(text, moment)) return false;
+    if (moment.day == noDay || moment.day > lastDay || !isOnDay(moment.time, moment.day)) return false;
+    if (!readOffset(moment.offset, offset)) return false;
+    const std::int64_t days = moment.day - ordinalOf1970;
+    value = days * secondsPerDay * microsecondsPerSecond + moment.time.microseconds() - offset;
+    return true;
+}
+
+}  // namespace vellark::PythonISOTimestamp
