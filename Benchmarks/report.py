@@ -5,6 +5,7 @@ A row of Goals.json names a subject, our figure and the peer's in it, and what i
 
     timesPeer       our time is at most `bound` times the peer's
     fasterThanPeer  the peer's time is at least `bound` times ours
+    perSecond       our routine runs at least `bound` times in a second; there is no peer
     bytes           our figure is at most `bound` bytes; there is no peer
 
 Where no bound is set, the ratio is shown for information.
@@ -49,7 +50,10 @@ def program_figures(program, directory):
 def shown(figure, kind):
     if kind == "bytes":
         return f"{figure / 1024:,.0f} KiB"
-    return f"{figure * 1e3:.3f} ms"
+    for unit, seconds in (("ms", 1e-3), ("us", 1e-6)):
+        if figure >= seconds:
+            return f"{figure / seconds:.3f} {unit}"
+    return f"{figure * 1e9:.1f} ns"
 
 
 def row(goal, figures):
@@ -62,6 +66,9 @@ def row(goal, figures):
     if kind == "bytes":
         met = ours <= bound
         return head + [shown(ours, kind), "", "", "", f"<= {shown(bound, kind)}", "met" if met else "NOT MET"], met
+    if kind == "perSecond":
+        met = 1 / ours >= bound
+        return head + [shown(ours, kind), "", "", "", f">= {bound:,} a second", "met" if met else "NOT MET"], met
     peer = statistics.median(figures[peer_name])
     ratio = ours / peer if kind == "timesPeer" else peer / ours
     head += [shown(ours, kind), peer_name, shown(peer, kind), f"{ratio:.2f}"]
