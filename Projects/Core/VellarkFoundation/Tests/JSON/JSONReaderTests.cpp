@@ -1,7 +1,7 @@
-#include <gtest/gtest.h>
-
 #include <VellarkFoundation/JSON/JSONReader.hpp>
 #include <VellarkFoundation/JSON/PythonJSONWriter.hpp>
+
+#include <gtest/gtest.h>
 
 namespace vellark {
 namespace {
@@ -12,7 +12,9 @@ struct Row {
     bool fragments = false;
 };
 
-std::string nested(std::size_t depth) { return std::string(depth, '[') + std::string(depth, ']'); }
+std::string nested(std::size_t depth) {
+    return std::string(depth, '[') + std::string(depth, ']');
+}
 
 TEST(JSONReader, accepts) {
     const Row rows[] = {
@@ -71,9 +73,11 @@ TEST(JSONReader, refuses) {
         {"UTF-16", std::string("[\0]\0", 4)},
         {"513 containers", nested(513)},
         {"a million brackets", std::string(1'000'000, '[')},
-        {"a million objects", [] {
+        {"a million objects",
+         [] {
              std::string text;
-             for (int index = 0; index < 1'000'000; ++index) text += "{\"a\":";
+             for (int index = 0; index < 1'000'000; ++index)
+                 text += "{\"a\":";
              return text;
          }()},
         {"open string", "[\"a"},
