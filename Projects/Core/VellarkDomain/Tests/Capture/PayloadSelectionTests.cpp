@@ -1,6 +1,7 @@
 #include "Support/RandomInput.hpp"
 #include <VellarkDomain/Capture/CaptureSignal.hpp>
 #include <VellarkDomain/Capture/HookNormalizer.hpp>
+#include <VellarkDomain/Capture/PythonText.hpp>
 
 #include <gtest/gtest.h>
 
@@ -9,18 +10,22 @@
 namespace vellark {
 namespace {
 
-std::vector<std::string> quotedKeys(std::initializer_list<std::span<const JSONSelection>> selections) {
-    std::vector<std::string> keys = {R"("content")", R"("edits")", R"("")", R"("c\u0077d")", R"("assistant_response")"};
-    for (const auto selection : selections) {
-        for (const JSONSelection& item : selection) {
-            keys.push_back('"' + std::string(item.key) + '"');
-            for (const JSONSelection& inner : item.members) {
-                keys.push_back('"' + std::string(inner.key) + '"');
-            }
-        }
+/// Every key that a hook, the signal or the source's identity reads, and some that nobody does. Not taken from the
+/// selections: a key that is missing there must be found here.
+const std::vector<std::string> keys = [] {
+    std::vector<std::string> quoted = {R"("")"};
+    for (const std::string_view key : PythonText::split(R"(
+        hook_event_name agent_action_name hookEventName cwd workspace_roots workspaceRoot session_id sessionId
+        conversation_id trajectory_id model timestamp tool_name toolName tool_input toolInput toolArgs args
+        tool_response toolResult tool_result tool_info resultType result_type file_path filePath path absolute_path
+        patch input command success error text response last_assistant_message assistant_response agent_id
+        parent_session_id transcript_path generation_id execution_id tool_use_id turn_id response_id message_id
+        isSidechain sourceProfileID sourceProfileLabel sourceKind agentHome _vellarkProducer _vellarkProfile
+        _vellarkLocalIngress content edits c\u0077d)")) {
+        quoted.push_back('"' + std::string(key) + '"');
     }
-    return keys;
-}
+    return quoted;
+}();
 
 const std::vector<std::string> scalars = {
     "null",
@@ -51,10 +56,20 @@ std::string payload(testing::RandomNumbers& random, testing::RandomJSON& json, c
     return rest == "{}" ? text + "}" : text + ", " + rest.substr(1);
 }
 
+/// The payload with what the source's identity is made of moved to where the signal shows it.
+JSONObject withIdentity(JSONObject payload) {
+    JSONArray identity;
+    for (const char* key : {"sourceProfileID", "sourceProfileLabel", "sourceKind", "agentHome"}) {
+        const JSONValue* value = payload.find(key);
+        identity.push_back(value == nullptr ? JSONValue() : *value);
+    }
+    payload.set("_vellarkProfile", std::move(identity));
+    return payload;
+}
+
 TEST(PayloadSelection, ofHooksChangesNoSignal) {
     testing::RandomNumbers random(31);
-    testing::RandomJSON json(32, quotedKeys({HookNormalizer::payloadSelection(), CaptureSignal::payloadSelection()}),
-                             scalars);
+    testing::RandomJSON json(32, keys, scalars);
     std::vector<std::string> heads;
     for (const auto& row : HookNormalizer::events()) {
         for (const std::string_view event : row.events) {
@@ -64,7 +79,8 @@ TEST(PayloadSelection, ofHooksChangesNoSignal) {
     }
     const auto signal = [](std::string_view source, const JSONValue& payload) {
         const auto common = HookNormalizer::normalize(source, *payload.object());
-        return common ? CaptureSignal::encode(source, *common, {.includesResponses = true}) : std::nullopt;
+        return common ? CaptureSignal::encode(source, withIdentity(*common), {.includesResponses = true})
+                      : std::nullopt;
     };
     std::size_t signalCount = 0;
     for (int index = 0; index < 4'000; ++index) {
@@ -83,17 +99,12 @@ TEST(PayloadSelection, ofHooksChangesNoSignal) {
 
 TEST(PayloadSelection, ofPlainPayloadsChangesNoSignal) {
     testing::RandomNumbers random(33);
-    testing::RandomJSON json(34, quotedKeys({CaptureSignal::payloadSelection()}), scalars);
+    testing::RandomJSON json(34, keys, scalars);
     const std::vector<std::string> heads = {R"({"cwd": "/w")", R"({"tool_input": {"path": "a", "content": "c"})"};
     const auto signal = [](std::string_view text, std::span<const JSONSelection> keep) {
         const auto value = JSONReader::read(text, {.keep = keep});
         if (!value) return std::optional<std::string>();
-        // What the source's identity takes from the payload must be there too.
-        JSONObject object = *value->object();
-        for (const char* key : {"sourceProfileID", "sourceProfileLabel", "sourceKind", "agentHome"}) {
-            if (const JSONValue* member = object.find(key)) object.set("model", JSONArray{*member, key});
-        }
-        return CaptureSignal::encode("claude", object, {.includesResponses = true});
+        return CaptureSignal::encode("claude", withIdentity(*value->object()), {.includesResponses = true});
     };
     for (int index = 0; index < 10'000; ++index) {
         const std::string text = payload(random, json, heads);

@@ -1,6 +1,6 @@
-#include <gtest/gtest.h>
-
 #include <VellarkDomain/Capture/PythonPath.hpp>
+
+#include <gtest/gtest.h>
 
 namespace vellark {
 namespace {

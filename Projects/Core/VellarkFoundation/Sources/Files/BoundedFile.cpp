@@ -15,19 +15,17 @@ std::optional<std::string> read(const std::string& path, std::size_t maximumByte
     if (::fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode)) return std::nullopt;
     if (static_cast<std::size_t>(status.st_size) > maximumBytes) return std::nullopt;
 
-    // One byte more than the file's size: a read that comes back short has found the end. More than that is there only
-    // when the file has grown since.
+    // One byte more than the file's size, so that the buffer need not grow for a file that keeps its size.
     std::string content(static_cast<std::size_t>(status.st_size) + 1, '\0');
     std::size_t length = 0;
     while (true) {
-        const std::size_t wanted = content.size() - length;
-        const ssize_t count = ::read(file.get(), content.data() + length, wanted);
+        if (length == content.size()) content.resize(2 * content.size());
+        const ssize_t count = ::read(file.get(), content.data() + length, content.size() - length);
         if (count < 0 && errno == EINTR) continue;
         if (count < 0) return std::nullopt;
+        if (count == 0) break;
         length += static_cast<std::size_t>(count);
         if (length > maximumBytes) return std::nullopt;
-        if (static_cast<std::size_t>(count) < wanted) break;
-        content.resize(2 * content.size());
     }
     content.resize(length);
     return content;

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "Support/Subprocess.hpp"
+
 #include <cstdlib>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
-
-#include "Support/Subprocess.hpp"
 
 namespace vellark::testing {
 
