@@ -20,7 +20,7 @@ LocalizationController::LocalizationController() {
 }
 
 void LocalizationController::apply(std::string_view selection, bool force) {
-    const Environment environment = LocalizationEnvironment::current();
+    const Environment environment = Environment::ofProcess();
     std::string language = AppLanguages::resolve(selection, LocalizationEnvironment::preferredLanguages(environment));
     std::string locale = AppLanguages::locale(language, LocalizationEnvironment::systemLocale(environment));
     if (!force && selection == selection_ && language == language_ && locale == locale_) return;

@@ -3,12 +3,6 @@
 #include <initializer_list>
 #include <string_view>
 
-#ifdef __APPLE__
-#include <crt_externs.h>
-#else
-#include <unistd.h>
-#endif
-
 namespace vellark::LocalizationEnvironment {
 
 namespace {
@@ -46,14 +40,6 @@ std::vector<std::string> preferredLanguages(const Environment& environment) {
 std::string systemLocale(const Environment& environment) {
     const std::string_view locale = languageOf(firstNonEmpty(environment, {"LC_ALL", "LC_TIME", "LANG"}));
     return std::string(locale.empty() ? "en_US" : locale);
-}
-
-Environment current() {
-#ifdef __APPLE__
-    return Environment(*_NSGetEnviron());
-#else
-    return Environment(environ);
-#endif
 }
 
 }  // namespace vellark::LocalizationEnvironment

@@ -21,9 +21,6 @@ namespace LocalizationEnvironment {
 /// "en_US" when there is none, or when it is "C" or "POSIX".
 [[nodiscard]] std::string systemLocale(const Environment& environment);
 
-/// The process's environment, looked at where it is: to be used at once.
-[[nodiscard]] Environment current();
-
 }  // namespace LocalizationEnvironment
 
 }  // namespace vellark

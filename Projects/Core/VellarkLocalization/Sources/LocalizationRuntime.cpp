@@ -12,7 +12,7 @@ LocalizationRuntime& LocalizationRuntime::shared() {
 }
 
 LocalizationRuntime::LocalizationRuntime() {
-    const Environment environment = LocalizationEnvironment::current();
+    const Environment environment = Environment::ofProcess();
     std::string language = AppLanguages::resolve("", LocalizationEnvironment::preferredLanguages(environment));
     std::string locale = AppLanguages::locale(language, LocalizationEnvironment::systemLocale(environment));
     store({.language = std::move(language), .locale = std::move(locale)});

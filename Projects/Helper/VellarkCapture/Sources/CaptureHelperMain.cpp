@@ -12,8 +12,6 @@
 #include <memory>
 #include <vector>
 
-extern char** environ;
-
 namespace vellark::CaptureHelperMain {
 
 namespace {
@@ -46,7 +44,7 @@ void capture(int argumentCount, const char* const* arguments) {
     for (int index = 1; index < argumentCount; ++index) {
         given.emplace_back(arguments[index]);
     }
-    const auto invocation = CaptureInvocation::make(given, Environment(environ), currentDirectory());
+    const auto invocation = CaptureInvocation::make(given, Environment::ofProcess(), currentDirectory());
     if (!invocation) return;
     invocation->run([] { return readInput(STDIN_FILENO, CaptureSignal::maximumInputBytes, inputTime); });
 }

@@ -10,10 +10,10 @@ namespace vellark {
 
 namespace {
 
-constexpr std::size_t largePageBytes = 2 * 1024 * 1024;
+constexpr std::size_t largePageBytes = 2'097'152;
 
 /// Bytes at the start that stay on small pages. Up to about this length clearing a large page costs more than it saves.
-constexpr std::size_t smallPageBytes = 512 * 1024;
+constexpr std::size_t smallPageBytes = 524'288;
 
 }  // namespace
 

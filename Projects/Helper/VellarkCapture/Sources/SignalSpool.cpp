@@ -217,17 +217,16 @@ std::string SignalSpool::agentRoot(std::string_view source) const {
 
     const auto variable = std::ranges::find(homeVariables, source, &HomeVariable::source);
     if (variable != homeVariables.end() && PythonPath(base) == PythonPath(home)) {
-        const std::string root =
-            HomeDirectory::expandingTilde(environment.value(variable->name).value_or(""), environment);
+        std::string root = HomeDirectory::expandingTilde(environment.value(variable->name).value_or(""), environment);
         if (root.starts_with('/')) return root;
     }
 
     const std::string usual(CaptureSignal::home(source).value_or("." + std::string(source)));
-    const std::string primary(PythonPath(base).appending(usual).string());
+    std::string primary(PythonPath(base).appending(usual).string());
     const auto older = std::ranges::find(CaptureVisibilityPolicy::agentHomeFallbacks, source,
                                          &CaptureVisibilityPolicy::AgentHome::source);
     if (older != CaptureVisibilityPolicy::agentHomeFallbacks.end() && !exists(primary)) {
-        const std::string fallback(PythonPath(base).appending(older->directory).string());
+        std::string fallback(PythonPath(base).appending(older->directory).string());
         if (isDirectory(fallback)) return fallback;
     }
     return primary;

@@ -54,7 +54,8 @@ bool isOneOf(const std::string* event, std::span<const std::string_view> events)
 }
 
 JSONValue valueOr(const JSONValue* value, JSONValue fallback) {
-    return value == nullptr ? std::move(fallback) : *value;
+    if (value != nullptr) return *value;
+    return fallback;
 }
 
 void copyTexts(const JSONObject& from, JSONObject& to, std::initializer_list<std::string_view> keys) {

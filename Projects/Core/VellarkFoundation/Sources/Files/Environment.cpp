@@ -1,6 +1,12 @@
 #include <VellarkFoundation/Files/Environment.hpp>
 #include <VellarkFoundation/Text/UTF8.hpp>
 
+#ifdef __APPLE__
+#include <crt_externs.h>
+#else
+#include <unistd.h>
+#endif
+
 namespace vellark {
 
 namespace {
@@ -19,6 +25,14 @@ std::optional<std::string_view> find(const char* const* entries, std::string_vie
 
 Environment::Environment(std::initializer_list<std::pair<const std::string, std::string>> variables)
     : variables_(std::make_shared<const std::map<std::string, std::string, std::less<>>>(variables)) {}
+
+Environment Environment::ofProcess() {
+#ifdef __APPLE__
+    return Environment(*_NSGetEnviron());
+#else
+    return Environment(environ);
+#endif
+}
 
 std::optional<std::string_view> Environment::value(std::string_view name) const {
     std::optional<std::string_view> found;

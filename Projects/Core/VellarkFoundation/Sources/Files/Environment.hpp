@@ -20,6 +20,9 @@ public:
     /// `environ`. They are looked at where they are, so they must outlive the value and stay unchanged.
     explicit Environment(const char* const* entries) : entries_(entries) {}
 
+    /// The variables of this process, looked at where they are.
+    [[nodiscard]] static Environment ofProcess();
+
     /// These variables, which are copied.
     Environment(std::initializer_list<std::pair<const std::string, std::string>> variables);
 
