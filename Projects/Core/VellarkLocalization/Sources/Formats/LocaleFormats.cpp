@@ -50,9 +50,14 @@ std::shared_ptr<const LocalizedNumberFormatter> decimalFormatter(int precision, 
     });
 }
 
+// A formatter finishes itself during its first uses. ICU guards that by atomics of its own, which a race detector
+// cannot see into; one call at a time costs a few nanoseconds and leaves no doubt.
+std::mutex formatting;
+
 // The formatted number, or plain digits should ICU fail.
 template <class Value, class Format>
 std::string formatted(Value value, const LocalizedNumberFormatter& formatter, Format format) {
+    const std::scoped_lock held(formatting);
     UErrorCode status = U_ZERO_ERROR;
     const icu::UnicodeString text = format(formatter, status).toString(status);
     if (U_SUCCESS(status)) return utf8(text);
@@ -89,6 +94,7 @@ std::string formattedDate(Date date, icu::DateFormat::EStyle timeStyle, std::str
         return made;
     });
     if (!formatter) return "";
+    const std::scoped_lock held(formatting);
     icu::UnicodeString text;
     return utf8(formatter->format(date.secondsSince1970 * 1000, text));
 }
@@ -135,7 +141,6 @@ std::string dateTime(Date date, std::string_view locale, std::string_view timeZo
 
 std::string ago(std::int64_t count, TimeUnit unit, std::string_view locale) {
     static FormatterCache<icu::RelativeDateTimeFormatter> cache;
-    static std::mutex formatting;
     const auto formatter = cache.get(locale, [&]() -> std::shared_ptr<const icu::RelativeDateTimeFormatter> {
         UErrorCode status = U_ZERO_ERROR;
         auto made = std::make_shared<const icu::RelativeDateTimeFormatter>(icuLocale(locale), nullptr, UDAT_STYLE_SHORT,
