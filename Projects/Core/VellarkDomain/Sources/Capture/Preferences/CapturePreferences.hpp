@@ -4,6 +4,7 @@
 #include <VellarkFoundation/JSON/JSONDocument.hpp>
 #include <VellarkFoundation/Records/DecodingError.hpp>
 
+#include <array>
 #include <cstdint>
 #include <map>
 #include <optional>
@@ -53,6 +54,10 @@ struct CapturePreferences {
     Moments outputResumeSince;  ///< by output kind
     std::optional<std::int64_t> collectionDefaultsVersion;
 
+    /// The extensions that were captured before the user could choose, and with which every record begins.
+    static constexpr std::array<std::string_view, 11> firstExtensions = {
+        "md", "markdown", "html", "htm", "png", "jpg", "jpeg", "gif", "webp", "heic", "heif"};
+
     /// The version that `applyCollectionDefaults` leaves behind.
     static constexpr std::int64_t currentCollectionDefaults = 1;
 
@@ -67,10 +72,10 @@ struct CapturePreferences {
     [[nodiscard]] bool isExtensionEnabled(std::string_view text) const;
 
     /// Switches one extension; switching it on switches its category on too. No change for a text that is no extension.
-    void setExtension(std::string_view text, bool enabled);
+    void setExtension(std::string_view text, bool isOn);
 
     /// Switches a category. One that is switched on without any of its extensions gets a starter set of them.
-    void setCategory(ArtifactCategory category, bool enabled);
+    void setCategory(ArtifactCategory category, bool isOn);
 
     /// Applies, once in a record's life, what every collection starts with: files of subagents from the moment `since`
     /// on, and office documents.
