@@ -36,13 +36,18 @@ function(vellark_add_include_root module sources)
     file(CREATE_LINK "${sources}" "${VELLARK_INCLUDE_ROOT}/${module}" SYMBOLIC)
 endfunction()
 
-# vellark_add_library(NAME DIRECTORIES dir... [PUBLIC target...] [PRIVATE target...])
+# vellark_add_library(NAME [DIRECTORIES dir...] [ROOMS dir...] [PUBLIC target...] [PRIVATE target...])
 #
-# A static library VellarkNAME (alias Vellark::NAME) of all sources that stand directly in the directories, which are
-# relative to the caller's. A new file is found by the next build without a change here.
+# A static library VellarkNAME (alias Vellark::NAME) of all sources that stand directly in the directories, and at any
+# depth in the rooms; both are relative to the caller's. A new file is found by the next build without a change here.
 function(vellark_add_library name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "DIRECTORIES;PUBLIC;PRIVATE")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "DIRECTORIES;ROOMS;PUBLIC;PRIVATE")
     set(sources)
+    foreach(room IN LISTS arg_ROOMS)
+        file(GLOB_RECURSE found CONFIGURE_DEPENDS
+            "${CMAKE_CURRENT_SOURCE_DIR}/${room}/*.cpp" "${CMAKE_CURRENT_SOURCE_DIR}/${room}/*.hpp")
+        list(APPEND sources ${found})
+    endforeach()
     foreach(directory IN LISTS arg_DIRECTORIES)
         file(GLOB found CONFIGURE_DEPENDS
             "${CMAKE_CURRENT_SOURCE_DIR}/${directory}/*.cpp" "${CMAKE_CURRENT_SOURCE_DIR}/${directory}/*.hpp")
@@ -103,6 +108,7 @@ function(vellark_install_package)
         "${PROJECT_BINARY_DIR}/VellarkConfig.cmake"
         "${PROJECT_BINARY_DIR}/VellarkConfigVersion.cmake"
         "${PROJECT_SOURCE_DIR}/CMake/FindSodium.cmake"
+        "${PROJECT_SOURCE_DIR}/CMake/FindCMarkGFM.cmake"
         DESTINATION "${destination}")
     install(FILES "${PROJECT_BINARY_DIR}/vellark.pc" DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
 endfunction()
