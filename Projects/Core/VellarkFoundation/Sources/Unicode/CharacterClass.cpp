@@ -83,12 +83,17 @@ bool isLowercase(std::string_view character) {
     return UnicodeCase::lower(character) == character && UnicodeCase::upper(character) != character;
 }
 
-std::string_view trimmed(std::string_view text) {
+std::string_view trimmedStart(std::string_view text) {
     while (!text.empty()) {
         const auto first = UTF8::decode(text, 0);
         if (!isWhitespace(first.scalar)) break;
         text.remove_prefix(first.byteCount);
     }
+    return text;
+}
+
+std::string_view trimmed(std::string_view text) {
+    text = trimmedStart(text);
     while (!text.empty()) {
         const std::size_t last = UTF8::previousOffset(text, text.size());
         if (!isWhitespace(UTF8::decode(text, last).scalar)) break;

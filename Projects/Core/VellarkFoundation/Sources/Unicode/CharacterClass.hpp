@@ -32,6 +32,9 @@ namespace CharacterClass {
 /// The text without the White_Space scalars at both ends.
 [[nodiscard]] std::string_view trimmed(std::string_view text);
 
+/// The text without the White_Space scalars at its start.
+[[nodiscard]] std::string_view trimmedStart(std::string_view text);
+
 /// True when every scalar is White_Space; an empty text is blank.
 [[nodiscard]] bool isBlank(std::string_view text);
 

@@ -195,6 +195,11 @@ bool exceeds(std::string_view text, std::size_t limit) {
     return text.size() > limit && walk(text, limit).bytes < text.size();
 }
 
+bool startsWith(std::string_view text, std::string_view prefix) {
+    if (!text.starts_with(prefix)) return false;
+    return prefix.empty() || next(text, prefix.size() - 1) == prefix.size();
+}
+
 }  // namespace GraphemeBreak
 
 Graphemes::Graphemes(std::string_view text)

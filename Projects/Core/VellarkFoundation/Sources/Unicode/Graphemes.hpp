@@ -24,6 +24,10 @@ namespace GraphemeBreak {
 /// True when the text has more than `limit` characters. Nothing behind them is looked at.
 [[nodiscard]] bool exceeds(std::string_view text, std::size_t limit);
 
+/// True when the text's first characters are those of the prefix, which is ASCII without a carriage return: a prefix
+/// whose last letter carries a combining mark in the text is another character.
+[[nodiscard]] bool startsWith(std::string_view text, std::string_view prefix);
+
 }  // namespace GraphemeBreak
 
 /// A text whose characters have offsets. Boundaries are found once, as far as a question needs them, and kept; a text
