@@ -100,8 +100,8 @@ public:
         if (!encodeValue(context_, value)) context_.failedIn(key);
     }
 
-    template <class Value>
-    void optional(std::string_view key, const std::optional<Value>& value) {
+    template <class Optional>
+    void optional(std::string_view key, const Optional& value) {
         if (value) required(key, *value);
     }
 
@@ -110,10 +110,18 @@ public:
         required(key, value);
     }
 
-    template <class Value>
-    void tolerant(std::string_view key, const std::optional<Value>& value) {
+    template <class Value, class Default>
+    void whenAbsent(std::string_view key, const Value& value, const Default&) {
+        required(key, value);
+    }
+
+    template <class Optional>
+    void tolerant(std::string_view key, const Optional& value) {
         optional(key, value);
     }
+
+    template <class Value>
+    void unstored(const Value&) {}
 
 private:
     EncodingContext& context_;
