@@ -22,7 +22,7 @@ constexpr auto rows = std::to_array<Base>({
      .markers = "out of scope, non goals, success metrics"},
     {.kind = spec,
      .names = "specification, requirement, functional spec, technical spec, tech spec, product spec, srs",
-     .cues = "feature, functional, protocol",
+     .cues = "feature, functional, format",
      .weak = "spec, specs, scope",
      .markers = "functional requirements, non functional requirements, the system shall"},
     {.kind = plan,
@@ -50,9 +50,9 @@ constexpr auto rows = std::to_array<Base>({
      .markers = "key findings, executive summary, key takeaways"},
     {.kind = research,
      .names = "research, survey, research report, survey report, competitive analysis, competitor analysis, "
-              "market analysis, literature review, case study, case studies, feasibility study, user interview, "
+              "market analysis, literature review, case study, comparison, feasibility study, user interview, "
               "questionnaire, swot analysis",
-     .cues = "research, market, competitor, competitive, survey, interview, literature",
+     .cues = "research, market, competitor, competitive, survey, interview, industry",
      .weak = "landscape, trend, findings",
      .markers = "respondents, sample size, competitive landscape"},
     {.kind = retrospective,
@@ -84,7 +84,7 @@ constexpr auto rows = std::to_array<Base>({
     {.kind = designDoc,
      .names = "design doc, design document, architecture, system design, technical design, tech design, "
               "software design, database design, api design, adr, rfc, data model, decision record, system overview, "
-              "technical overview, schema, sequence diagram, architecture diagram, erd, threat model",
+              "level design, schema, sequence diagram, architecture diagram, erd, threat model",
      .cues = "architecture, microservice, database, infrastructure, backend",
      .weak = "diagram, decision, model",
      .markers = "alternatives considered, data flow, design decisions"},
@@ -121,7 +121,7 @@ constexpr auto rows = std::to_array<Base>({
      .weak = "timeline, whys",
      .markers = "root cause, contributing factors, corrective actions"},
     {.kind = changelog,
-     .names = "changelog, change log, release note, patch note, version history, revision history, change history, "
+     .names = "changelog, change log, release note, patch note, version history, revision history, update note, "
               "update log, what's new, breaking change",
      .cues = "release, changes, patch",
      .weak = "history, release",
@@ -135,7 +135,7 @@ constexpr auto rows = std::to_array<Base>({
      .markers = "prerequisites, troubleshooting, installation, usage"},
     {.kind = data,
      .names = "data, dataset, data set, statistics, spreadsheet, data dictionary, roster, inventory, metrics",
-     .cues = "statistic, csv",
+     .cues = "statistic",
      .weak = "table, figures",
      .markers = ""},
     {.kind = prompt,
@@ -151,8 +151,8 @@ constexpr auto rows = std::to_array<Base>({
      .weak = "screen, flow",
      .markers = ""},
     {.kind = designSystem,
-     .names = "design system, style guide, brand guide, brand guideline, design guideline, component library, "
-              "component guideline, design token, color palette, ui kit",
+     .names = "design system, brand book, style guide, brand guide, brand guideline, design guideline, "
+              "component library, component guideline, design token, color palette, ui kit",
      .cues = "brand, component",
      .weak = "",
      .markers = "color palette"},
@@ -195,14 +195,14 @@ constexpr auto rows = std::to_array<Base>({
               "profit and loss, p l, expense report, expense, receipt, purchase order, forecast, financial model, "
               "financial plan, payroll, ledger, cost breakdown",
      .cues = "financial, revenue, expense, tax",
-     .weak = "statement",
+     .weak = "",
      .markers = "amount due, subtotal, bill to"},
     {.kind = legal,
      .names = "contract, agreement, nda, terms, terms and conditions, privacy policy, privacy notice, license, "
               "licence, lease, sla, msa, mou, sow, eula, disclaimer, patent, patent application, legal opinion, "
               "consent form",
-     .cues = "legal, clause, patent, copyright",
-     .weak = "conditions",
+     .cues = "legal, statement of work, patent, copyright",
+     .weak = "conditions, statement",
      .markers = "hereinafter, governing law, indemnify"},
     {.kind = policy,
      .names = "policy, policies, rule, regulation, governance, standard, working agreement, team agreement, "
@@ -223,7 +223,7 @@ constexpr auto rows = std::to_array<Base>({
      .markers = "about the role, responsibilities, qualifications"},
     {.kind = email,
      .names = "letter, reply, email draft, email reply, thank you note, outreach email, cold email",
-     .cues = "welcome, follow up, thank you, outreach",
+     .cues = "welcome, follow up, thank you, outreach, apology, client, draft",
      .weak = "email, e mail, mail",
      .markers = "best regards, sincerely, kind regards"},
     {.kind = faq,
@@ -257,7 +257,7 @@ constexpr auto rows = std::to_array<Base>({
      .markers = ""},
     {.kind = translation,
      .names = "translation, localization, translated version, english version, korean version",
-     .cues = "translated, bilingual",
+     .cues = "translated",
      .weak = "",
      .markers = ""},
     {.kind = learning,
@@ -272,14 +272,14 @@ constexpr auto rows = std::to_array<Base>({
      .weak = "",
      .markers = "in this lecture"},
     {.kind = studyNotes,
-     .names = "study note, revision note, review note, summary note, til, today i learned, learning note, "
+     .names = "study note, revision note, learning log, summary note, til, today i learned, learning note, "
               "vocabulary list, formula sheet, exam review",
      .cues = "study, revision, concept",
      .weak = "",
      .markers = "key terms"},
     {.kind = readingNotes,
      .names = "reading note, reading log, reading journal, book note, book summary, book report, paper summary, "
-              "paper note, paper review, literature note, article summary, chapter summary, reading list",
+              "paper note, paper review, literature note, article summary, reading list",
      .cues = "book, reading",
      .weak = "",
      .markers = "favorite quotes"},
@@ -302,14 +302,14 @@ constexpr auto rows = std::to_array<Base>({
      .weak = "quiz, quizzes, exam, midterm, finals",
      .markers = "multiple choice, true or false"},
     {.kind = errorNotes,
-     .names = "error note, mistake log, wrong answer, incorrect answer, mistake",
+     .names = "error note, mistake log, wrong answer, mistake notebook, mistake",
      .cues = "",
      .weak = "",
      .markers = "why i got it wrong"},
     {.kind = paper,
      .names = "paper, thesis, dissertation, abstract, preprint, manuscript, journal article, research article, "
               "systematic review, meta analysis",
-     .cues = "academic, thesis",
+     .cues = "academic",
      .weak = "",
      .markers = "related work, abstract, references, in this paper"},
     {.kind = journal,

@@ -19,8 +19,7 @@ constexpr std::array<DocumentKind, sizeof...(kinds)> anyOf{kinds...};
 constexpr auto rows = std::to_array<Shared>({
     {.kinds = anyOf<report, research>,
      .names = "분석, 평가, 비교, 비교표, 인사이트, 검토 보고서, 分析, 評価, 评估, 評估, 比較, 对比, 對比, "
-              "インサイト, analysis, analyses, assessment, evaluation, comparison, insight, deep dive, benchmark, "
-              "finding",
+              "インサイト, analysis, analyses, assessment, evaluation, insight, deep dive, benchmark",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<report, codeReview, essay>,
@@ -42,7 +41,7 @@ constexpr auto rows = std::to_array<Shared>({
     {.kinds = anyOf<learning, lectureNotes>,
      .names = "강의 자료, 수업 자료, 강의 슬라이드, 유인물, lecture slide, lecture material, class material, "
               "handout, 講義資料, 授業資料, 課件, 课件, 配布資料, 講義",
-     .generics = "자료, material, resource, 資料, 资料, 素材",
+     .generics = "자료, materials, material, resources, resource, 資料, 资料, 素材",
      .cues = "과외, 부트캠프, 워크숍 자료, bootcamp, tutoring, 研修, 培训, 培訓"},
     {.kinds = anyOf<design, designDoc>,
      .names = "design, 设计, 도면, drawing, 図面, 图纸, 圖紙",
@@ -58,9 +57,9 @@ constexpr auto rows = std::to_array<Shared>({
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<finance, report>,
-     .names = "실적, 매출 보고서, 매출 보고, 매출 현황, 매출 분석, 비용 분석, 재무 보고서, 결산 보고서, 회계 보고서, "
-              "financial report, financial analysis, earnings report, cost analysis, expense analysis, "
-              "revenue report, 実績, 業績, 业绩, 決算報告, 财务报告, 財務報告",
+     .names = "실적, 연말 정산, 비용 분석, 재무 보고서, 결산 보고서, 회계 보고서, financial report, "
+              "financial analysis, earnings report, cost analysis, expense analysis, revenue report, 実績, 業績, "
+              "业绩, 決算報告, 财务报告, 財務報告",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<businessPlan, presentation, sales>,
@@ -69,11 +68,12 @@ constexpr auto rows = std::to_array<Shared>({
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<studyNotes, quiz, learning>,
-     .names = "플래시카드, 암기 카드, flashcard, フラッシュカード, 闪卡",
+     .names = "공부, 복습, 예습, 시험 요약, 중간고사 요약, 기말고사 요약, 시험 노트, 勉強, 復習, 复习, 複習, "
+              "플래시카드, 암기 카드, flashcard, フラッシュカード, 闪卡",
      .generics = "",
      .cues = "시험, 중간고사, 기말고사, 중간, 기말, 단원, 수학, 영어, 국어, 과학, 물리, 화학, 생물, 지구과학, "
-             "한국사, 세계사, 역사, 사회, 경제학, 심리학, 통계학, 미적분, 선형대수, 문법, 단어, 어휘, 한자, 토익, "
-             "수능, 내신, 자격증, 챕터, chapter, unit, math, algebra, calculus, geometry, physics, chemistry, "
+             "한국사, 세계사, 역사, 사회, 경제학, 심리학, 통계학, 미적분, 선형대수, 문법, 영문법, 단어, 어휘, 한자, "
+             "토익, 수능, 내신, 자격증, 챕터, chapter, unit, math, algebra, calculus, geometry, physics, chemistry, "
              "biology, history, geography, economics, psychology, grammar, vocabulary, anatomy, statistics, midterm, "
              "exam, final exam, lesson, spanish, english, french, science, 試験, 期末, 期中, 中間, 数学, 數學, 英語, "
              "英语, 物理, 化学, 化學, 生物, 歴史, 历史, 歷史, 考试, 考試, 単元, 单元, 文法, 语法, 語法, 単語, 单词"},
@@ -88,13 +88,14 @@ constexpr auto rows = std::to_array<Shared>({
     {.kinds = anyOf<memo, journal>,
      .names = "",
      .generics = "정리, 정리본, 요약, 요약본, 요약문, 노트, 기록, 기록지, 기록물, 결과, 내용, summary, summaries, "
-                 "note, recap, takeaway, write up, writeup, record, result, minutes draft, まとめ, ノート, 記録, "
-                 "要約, 結果, 内容, 要点, 总结, 總結, 笔记, 筆記, 记录, 紀錄, 摘要, 小结, 结果, 纪要, 內容, 整理",
+                 "notes, note, recap, takeaways, takeaway, records, record, results, result, list, まとめ, ノート, "
+                 "記録, 要約, 結果, 内容, 要点, 总结, 總結, 笔记, 筆記, 记录, 紀錄, 摘要, 小结, 结果, 纪要, 內容, "
+                 "整理",
      .cues = ""},
     {.kinds = anyOf<journal, changelog>,
      .names = "일지, 작업 일지, 개발 일지, 운동 일지, 실험 일지, 연구 일지, 작업 로그, work log, dev log, devlog, "
               "logbook, 日誌, 日志",
-     .generics = "로그, log, ログ",
+     .generics = "로그, logs, log, ログ",
      .cues = ""},
     {.kinds = anyOf<meetingNotes, retrospective>,
      .names = "",
@@ -103,19 +104,19 @@ constexpr auto rows = std::to_array<Shared>({
              "정기 회의, 이사회, 면접, workshop, town hall, all hands, check in, offsite, huddle, catch up, debrief, "
              "ワークショップ, 朝会, 定例, 研讨会, 研討會, 例会, 周会"},
     {.kinds = anyOf<blogPost, socialPost, essay>,
-     .names = "포스트, 게시글, 후기, 체험기, 사용기, 방문기, 기고, post, write up, writeup, 投稿, 記事, 文章, 帖子, "
-              "体験記",
+     .names = "포스트, 게시글, 스레드, thread, スレッド, 후기, 체험기, 사용기, 방문기, 기고, post, write up, "
+              "writeup, 投稿, 記事, 文章, 帖子, 体験記",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<data, checklist>,
-     .names = "목록, 리스트, 현황표, 목록표, list, index, 一覧, 一覧表, リスト, 列表, 名单, 名單",
+     .names = "목록, 리스트, 현황표, 목록표, list, 一覧, 一覧表, リスト, 列表, 名单, 名單",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<guide, learning>,
      .names = "",
-     .generics = "문서, 문서화, 서류, 개요, 소개, 입문, 기초, document, documentation, doc, docs, overview, "
-                 "introduction, intro, basics, fundamentals, 文書, ドキュメント, 概要, 紹介, 入門, 基礎, 文档, 文檔, "
-                 "文件, 概述, 简介, 簡介, 介绍, 介紹, 入门, 基础",
+     .generics = "문서, 문서화, 서류, 개요, 소개, 입문, 기초, documents, document, documentation, doc, docs, "
+                 "overview, introduction, intro, basics, fundamentals, 文書, ドキュメント, 概要, 紹介, 入門, 基礎, "
+                 "文档, 文檔, 文件, 概述, 简介, 簡介, 介绍, 介紹, 入门, 基础",
      .cues = ""},
 });
 
