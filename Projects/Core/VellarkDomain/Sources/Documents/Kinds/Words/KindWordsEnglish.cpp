@@ -23,13 +23,13 @@ constexpr auto rows = std::to_array<Base>({
     {.kind = spec,
      .names = "specification, requirement, functional spec, technical spec, tech spec, product spec, srs",
      .cues = "feature, functional, format",
-     .weak = "spec, specs, scope",
+     .weak = "spec, specs",
      .markers = "functional requirements, non functional requirements, the system shall"},
     {.kind = plan,
      .names = "plan, roadmap, schedule, strategy, strategies, timeline, gantt chart, calendar, okr, "
               "work breakdown structure, wbs, project charter",
      .cues = "milestone, sprint, okr, go to market, roadmap, phase",
-     .weak = "goal, objective, strategy",
+     .weak = "goal, objective, strategy, initiative",
      .markers = "milestones, phase one, rollout plan"},
     {.kind = userStories,
      .names = "user story, user stories, use case, user scenario, epic, acceptance criteria, product backlog",
@@ -40,7 +40,7 @@ constexpr auto rows = std::to_array<Base>({
      .names = "meeting note, meeting minute, minutes, meeting agenda, agenda, meeting memo, meeting outcome, "
               "call transcript, discussion note",
      .cues = "meeting, standup, kickoff, call, one on one, sync, stand up",
-     .weak = "discussion",
+     .weak = "meeting",
      .markers = "attendees, action items, decisions made"},
     {.kind = report,
      .names = "report, status update, weekly update, progress update, project update, project status, "
@@ -84,7 +84,7 @@ constexpr auto rows = std::to_array<Base>({
     {.kind = designDoc,
      .names = "design doc, design document, architecture, system design, technical design, tech design, "
               "software design, database design, api design, adr, rfc, data model, decision record, system overview, "
-              "level design, schema, sequence diagram, architecture diagram, erd, threat model",
+              "level design, schema, diagram, erd, threat model",
      .cues = "architecture, microservice, database, infrastructure, backend",
      .weak = "diagram, decision, model",
      .markers = "alternatives considered, data flow, design decisions"},
@@ -124,12 +124,12 @@ constexpr auto rows = std::to_array<Base>({
      .names = "changelog, change log, release note, patch note, version history, revision history, update note, "
               "update log, what's new, breaking change",
      .cues = "release, changes, patch",
-     .weak = "history, release",
+     .weak = "history",
      .markers = "bug fixes, breaking changes, deprecated"},
     {.kind = guide,
      .names = "guide, manual, tutorial, how to, howto, readme, runbook, playbook, handbook, walkthrough, guideline, "
               "best practice, getting started, quickstart, quick start, instruction, onboarding, sop, procedure, "
-              "troubleshooting, installation, knowledge base, cheat sheet, cheatsheet",
+              "troubleshooting, installation, handover, cheat sheet, cheatsheet",
      .cues = "setup, install, installation, deployment, how to, onboarding, step by step",
      .weak = "how, guide, steps, tips, setup",
      .markers = "prerequisites, troubleshooting, installation, usage"},
@@ -195,7 +195,7 @@ constexpr auto rows = std::to_array<Base>({
               "profit and loss, p l, expense report, expense, receipt, purchase order, forecast, financial model, "
               "financial plan, payroll, ledger, cost breakdown",
      .cues = "financial, revenue, expense, tax",
-     .weak = "",
+     .weak = "bill",
      .markers = "amount due, subtotal, bill to"},
     {.kind = legal,
      .names = "contract, agreement, nda, terms, terms and conditions, privacy policy, privacy notice, license, "
@@ -246,7 +246,7 @@ constexpr auto rows = std::to_array<Base>({
     {.kind = essay,
      .names = "essay, column, op ed, opinion piece, editorial, critique, book review, movie review, film review, "
               "personal statement, memoir",
-     .cues = "opinion, movie",
+     .cues = "film, movie",
      .weak = "",
      .markers = "in conclusion, i argue that, in my opinion"},
     {.kind = story,
@@ -297,7 +297,7 @@ constexpr auto rows = std::to_array<Base>({
      .markers = "therefore the answer"},
     {.kind = quiz,
      .names = "practice test, practice exam, mock exam, mock test, final exam, midterm exam, exam paper, test paper, "
-              "examination, trivia",
+              "examination, trivia, vocabulary test",
      .cues = "pop, trivia",
      .weak = "quiz, quizzes, exam, midterm, finals",
      .markers = "multiple choice, true or false"},

@@ -39,8 +39,9 @@ constexpr auto rows = std::to_array<Shared>({
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<learning, lectureNotes>,
-     .names = "강의 자료, 수업 자료, 강의 슬라이드, 유인물, lecture slide, lecture material, class material, "
-              "handout, 講義資料, 授業資料, 課件, 课件, 配布資料, 講義",
+     .names = "강의 자료, 강좌, 온라인 강의, 교육 계획서, 학습 계획서, learning path, training plan, 수업 자료, "
+              "강의 슬라이드, 유인물, lecture slide, lecture material, class material, handout, 講義資料, 授業資料, "
+              "課件, 课件, 配布資料, 講義",
      .generics = "자료, materials, material, resources, resource, 資料, 资料, 素材",
      .cues = "과외, 부트캠프, 워크숍 자료, bootcamp, tutoring, 研修, 培训, 培訓"},
     {.kinds = anyOf<design, designDoc>,
@@ -52,14 +53,14 @@ constexpr auto rows = std::to_array<Shared>({
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<plan, checklist, userStories>,
-     .names = "백로그, 다음 단계, 액션 아이템, 시간표, 계획표, 타임라인, backlog, task, next step, action item, "
-              "バックログ, タスク, 任务, 任務, 待办, 待辦",
+     .names = "백로그, 다음 단계, 액션 아이템, 시간표, 계획표, 타임라인, 캘린더, backlog, task, next step, "
+              "action item, バックログ, タスク, 任务, 任務, 待办, 待辦",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<finance, report>,
-     .names = "실적, 연말 정산, 비용 분석, 재무 보고서, 결산 보고서, 회계 보고서, financial report, "
-              "financial analysis, earnings report, cost analysis, expense analysis, revenue report, 実績, 業績, "
-              "业绩, 決算報告, 财务报告, 財務報告",
+     .names = "실적, 매출 전망, 예산 현황, 예산 집행 현황, 예산 계획, 지출 현황, 내역서, 연말 정산, 비용 분석, "
+              "재무 보고서, 결산 보고서, 회계 보고서, financial report, financial analysis, earnings report, "
+              "cost analysis, expense analysis, revenue report, 実績, 業績, 业绩, 決算報告, 财务报告, 財務報告",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<businessPlan, presentation, sales>,
