@@ -75,17 +75,17 @@ constexpr auto rows = std::to_array<Shared>({
      .cues = "시험, 중간고사, 기말고사, 중간, 기말, 단원, 수학, 영어, 국어, 과학, 물리, 화학, 생물, 지구과학, "
              "한국사, 세계사, 역사, 사회, 경제학, 심리학, 통계학, 미적분, 선형대수, 문법, 영문법, 단어, 어휘, 한자, "
              "토익, 수능, 내신, 자격증, 챕터, chapter, unit, math, algebra, calculus, geometry, physics, chemistry, "
-             "biology, history, geography, economics, psychology, grammar, vocabulary, anatomy, statistics, midterm, "
-             "exam, final exam, lesson, spanish, english, french, science, 試験, 期末, 期中, 中間, 数学, 數學, 英語, "
-             "英语, 物理, 化学, 化學, 生物, 歴史, 历史, 歷史, 考试, 考試, 単元, 单元, 文法, 语法, 語法, 単語, 单词"},
+             "biology, history, geography, economics, psychology, grammar, vocabulary, anatomy, statistics, lesson, "
+             "spanish, english, french, science, 試験, 期末, 期中, 中間, 数学, 數學, 英語, 英语, 物理, 化学, 化學, "
+             "生物, 歴史, 历史, 歷史, 考试, 考試, 単元, 单元, 文法, 语法, 語法, 単語, 单词"},
     {.kinds = anyOf<studyNotes, guide>,
      .names = "",
      .generics = "",
-     .cues = "알고리즘, 자료구조, 자료 구조, 운영체제, 운영 체제, 네트워크, 파이썬, 자바, 리액트, 도커, 쿠버네티스, "
-             "스프링, 머신러닝, 딥러닝, 컴퓨터 구조, 디자인 패턴, algorithm, data structure, operating system, "
-             "networking, python, java, javascript, typescript, rust, golang, kotlin, swift, react, docker, "
-             "kubernetes, git, linux, sql, aws, machine learning, deep learning, アルゴリズム, データ構造, "
-             "ネットワーク, 算法, 数据结构, 数據結構, 操作系统, 机器学习, 深度学习, 機械学習"},
+     .cues = "midterm, exam, 알고리즘, 자료구조, 자료 구조, 운영체제, 운영 체제, 네트워크, 파이썬, 자바, 리액트, "
+             "도커, 쿠버네티스, 스프링, 머신러닝, 딥러닝, 컴퓨터 구조, 디자인 패턴, algorithm, data structure, "
+             "operating system, networking, python, java, javascript, typescript, rust, golang, kotlin, swift, "
+             "react, docker, kubernetes, git, linux, sql, aws, machine learning, deep learning, アルゴリズム, "
+             "データ構造, ネットワーク, 算法, 数据结构, 数據結構, 操作系统, 机器学习, 深度学习, 機械学習"},
     {.kinds = anyOf<memo, journal>,
      .names = "",
      .generics = "정리, 정리본, 요약, 요약본, 요약문, 노트, 기록, 기록지, 기록물, 결과, 내용, summary, summaries, "
