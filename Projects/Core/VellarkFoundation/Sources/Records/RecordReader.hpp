@@ -307,9 +307,16 @@ template <class Record>
     return record;
 }
 
+/// The quick way, in DirectRecordReader.hpp: false when the text has to be read by a RecordReader.
+template <class Value>
+bool readDirectly(std::string_view text, Value& value);
+
 /// The record of a JSON text, which must hold one object or array and nothing else.
 template <class Record>
 [[nodiscard]] Result<Record, DecodingError> readRecord(std::string_view text) {
+    Result<Record, DecodingError> record;
+    if (readDirectly(text, *record)) return record;
+    *record = Record{};  // gives back what was read so far
     const auto document = JSONDocument::parse(text);
     if (!document) {
         return failure(DecodingError{
@@ -319,3 +326,5 @@ template <class Record>
 }
 
 }  // namespace vellark
+
+#include <VellarkFoundation/Records/DirectRecordReader.hpp>
