@@ -12,7 +12,8 @@ using namespace vellark;
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string_view text = fuzz::text(data, size);
     const CaptureTemporaryScope scope{std::string(text), std::string(text), "/tmp/x"};
-    for (const std::string_view name : CaptureArtifactTables::credentialFiles) {
+    for (const auto& [name, trait] : CaptureArtifactTables::names.entries()) {
+        if (trait != CaptureArtifactTables::NameTrait::credentials) continue;
         const std::string path = std::string(text).append("/").append(name);
         fuzz::require(CaptureRules::excludedArtifact(path, scope, true), "credentials are never captured");
     }
