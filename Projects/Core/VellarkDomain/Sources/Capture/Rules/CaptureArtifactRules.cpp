@@ -6,19 +6,18 @@
 #include <VellarkDomain/Capture/Rules/CaptureCredentialNames.hpp>
 #include <VellarkDomain/Capture/Rules/CaptureFileName.hpp>
 
-#include <algorithm>
 #include <optional>
-#include <span>
 
 namespace vellark::CaptureRules {
 
 namespace {
 
-using namespace CaptureArtifactTables;
+using CaptureArtifactTables::NameTrait;
+using CaptureArtifactTables::SuffixTrait;
 
-// What a table holds is ASCII, so that equality alone keeps all other text out of it.
-bool isIn(std::span<const std::string_view> table, std::string_view text) {
-    return std::ranges::find(table, text) != table.end();
+bool hasTrait(const CaptureFileName& file, NameTrait trait) {
+    const NameTrait* const found = CaptureArtifactTables::names.find(file.name());
+    return found != nullptr && *found == trait;
 }
 
 std::optional<ArtifactType> typeOfExtension(std::string_view extension, bool isPlan) {
@@ -55,7 +54,8 @@ bool isSafeByType(std::string_view extension) {
 // Names that no type makes safe.
 bool isPrivateName(const CaptureFileName& file) {
     const std::string_view name = file.name();
-    if (isIn(credentialFiles, name) || name == ".env" || name.starts_with(".env.") || name == ".ds_store") return true;
+    if (hasTrait(file, NameTrait::credentials)) return true;
+    if (name.starts_with('.')) return name == ".env" || name.starts_with(".env.") || name == ".ds_store";
     return name.starts_with("rollout") && file.suffix() == ".jsonl";
 }
 
@@ -64,7 +64,7 @@ bool isPrivateName(const CaptureFileName& file) {
 ArtifactType artifactType(std::string_view path, bool isPlan) {
     const CaptureFileName file(path);
     if (const auto type = typeOfExtension(file.extension(), isPlan)) return *type;
-    if (isIn(codeFileNames, file.name())) return {ArtifactCategory::code, "text"};
+    if (hasTrait(file, NameTrait::code)) return {ArtifactCategory::code, "text"};
     return {};
 }
 
@@ -73,11 +73,11 @@ bool excludedArtifact(std::string_view path, const CaptureTemporaryScope& scope,
     if (temporaryLocation(path, scope) && !(temporaryDocuments && temporaryDocument(path))) return true;
 
     const CaptureFileName file(path);
-    const std::string_view suffix = file.suffix();
-    if (isPrivateName(file) || isIn(keySuffixes, suffix) || isIn(systemBinarySuffixes, suffix)) return true;
+    const SuffixTrait* const suffix = CaptureArtifactTables::suffixes.find(file.suffix());
+    const bool isConfiguration = suffix != nullptr && *suffix == SuffixTrait::configuration;
+    if (isPrivateName(file) || (suffix != nullptr && !isConfiguration)) return true;
     if (isSafeByType(file.extension())) return false;
-    if (sshKeyName(file.name())) return true;
-    return isIn(configSuffixes, suffix) && credentialName(file.stem());
+    return sshKeyName(file.name()) || (isConfiguration && credentialName(file.stem()));
 }
 
 }  // namespace vellark::CaptureRules

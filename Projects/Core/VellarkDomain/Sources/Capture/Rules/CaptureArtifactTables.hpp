@@ -1,48 +1,80 @@
 #pragma once
 
-#include <array>
-#include <string_view>
+#include <VellarkDomain/Capture/FixedTextMap.hpp>
 
-// Names and suffixes of files, case-folded. Suffixes come with their point.
+#include <array>
+
+// Names and suffixes of files, case-folded, with what the rules make of them.
 namespace vellark::CaptureArtifactTables {
 
-/// Files in which tools keep keys, passwords and sessions, or what a user typed.
-inline constexpr auto credentialFiles = std::to_array<std::string_view>({
-    "auth.json",
-    "credentials.json",
-    "credentials.yaml",
-    "credentials.yml",
-    "tokens.json",
-    "secrets.json",
-    "secrets.yaml",
-    "secrets.yml",
-    "id_rsa",
-    "id_ed25519",
-    "cookie",
-    "cookies.sqlite",
-    ".npmrc",
-    ".pypirc",
-    ".netrc",
-    ".dockercfg",
-    "history.jsonl",
-    ".git-credentials",
-    "client_secret.json",
-});
+enum class NameTrait {
+    credentials,  ///< in which tools keep keys, passwords and sessions, or what a user typed
+    code,         ///< code and what goes with it, though the name has no suffix
+};
 
-/// Keys, certificates with keys and stores of passwords.
-inline constexpr auto keySuffixes =
-    std::to_array<std::string_view>({".pem", ".key", ".p8", ".p12", ".pfx", ".keystore", ".kdbx", ".mobileprovision"});
+inline constexpr FixedTextMap names(std::to_array<FixedTextEntry<NameTrait>>({
+    {"auth.json", NameTrait::credentials},
+    {"credentials.json", NameTrait::credentials},
+    {"credentials.yaml", NameTrait::credentials},
+    {"credentials.yml", NameTrait::credentials},
+    {"tokens.json", NameTrait::credentials},
+    {"secrets.json", NameTrait::credentials},
+    {"secrets.yaml", NameTrait::credentials},
+    {"secrets.yml", NameTrait::credentials},
+    {"id_rsa", NameTrait::credentials},
+    {"id_ed25519", NameTrait::credentials},
+    {"cookie", NameTrait::credentials},
+    {"cookies.sqlite", NameTrait::credentials},
+    {".npmrc", NameTrait::credentials},
+    {".pypirc", NameTrait::credentials},
+    {".netrc", NameTrait::credentials},
+    {".git-credentials", NameTrait::credentials},
+    {".dockercfg", NameTrait::credentials},
+    {"history.jsonl", NameTrait::credentials},
+    {"client_secret.json", NameTrait::credentials},
+    {"makefile", NameTrait::code},
+    {"dockerfile", NameTrait::code},
+    {"gemfile", NameTrait::code},
+    {"license", NameTrait::code},
+    {"readme", NameTrait::code},
+}));
 
-/// What compilers and linkers write.
-inline constexpr auto systemBinarySuffixes = std::to_array<std::string_view>(
-    {".dylib", ".so", ".a", ".o", ".pyc", ".pyo", ".class", ".swiftmodule", ".swiftdoc"});
+enum class SuffixTrait {
+    key,            ///< keys, certificates with keys and stores of passwords
+    systemBinary,   ///< what compilers and linkers write
+    configuration,  ///< settings, among which secrets stand; no suffix is one of these
+};
 
-/// Files that hold settings, among which secrets stand; those without a suffix are among them.
-inline constexpr auto configSuffixes = std::to_array<std::string_view>(
-    {"", ".json", ".jsonc", ".yaml", ".yml", ".toml", ".ini", ".cfg", ".conf", ".txt", ".properties"});
-
-/// Files of code and its surroundings that go without a suffix.
-inline constexpr auto codeFileNames =
-    std::to_array<std::string_view>({"makefile", "dockerfile", "gemfile", "license", "readme"});
+/// With their points.
+inline constexpr FixedTextMap suffixes(std::to_array<FixedTextEntry<SuffixTrait>>({
+    {".pem", SuffixTrait::key},
+    {".key", SuffixTrait::key},
+    {".p8", SuffixTrait::key},
+    {".p12", SuffixTrait::key},
+    {".pfx", SuffixTrait::key},
+    {".keystore", SuffixTrait::key},
+    {".kdbx", SuffixTrait::key},
+    {".mobileprovision", SuffixTrait::key},
+    {".dylib", SuffixTrait::systemBinary},
+    {".so", SuffixTrait::systemBinary},
+    {".a", SuffixTrait::systemBinary},
+    {".o", SuffixTrait::systemBinary},
+    {".pyc", SuffixTrait::systemBinary},
+    {".pyo", SuffixTrait::systemBinary},
+    {".class", SuffixTrait::systemBinary},
+    {".swiftmodule", SuffixTrait::systemBinary},
+    {".swiftdoc", SuffixTrait::systemBinary},
+    {"", SuffixTrait::configuration},
+    {".json", SuffixTrait::configuration},
+    {".jsonc", SuffixTrait::configuration},
+    {".yaml", SuffixTrait::configuration},
+    {".yml", SuffixTrait::configuration},
+    {".toml", SuffixTrait::configuration},
+    {".ini", SuffixTrait::configuration},
+    {".cfg", SuffixTrait::configuration},
+    {".conf", SuffixTrait::configuration},
+    {".txt", SuffixTrait::configuration},
+    {".properties", SuffixTrait::configuration},
+}));
 
 }  // namespace vellark::CaptureArtifactTables

@@ -1,10 +1,9 @@
+#include <VellarkDomain/Capture/PythonPath.hpp>
 #include <VellarkDomain/Capture/PythonText.hpp>
 #include <VellarkDomain/Capture/Rules/CaptureFileName.hpp>
 
-#include <algorithm>
-
 // Folding maps no other character to "." or "/" and neither of these to anything else. So the name may be cut out
-// before it is folded and its suffix after, each on the shorter text.
+// before it is folded, and its suffix after.
 
 namespace vellark {
 
@@ -21,27 +20,24 @@ std::string_view lastComponent(std::string_view path) {
     }
 }
 
+// The loop works on bytes alone and has no way out, so that compilers make it one over many bytes at a time.
 bool isFolded(std::string_view text) {
-    return std::ranges::none_of(
-        text, [](char byte) { return (byte >= 'A' && byte <= 'Z') || static_cast<unsigned char>(byte) >= 0x80; });
-}
-
-PythonPath foldedName(std::string_view path) {
-    const std::string_view name = lastComponent(path);
-    return PythonPath(isFolded(name) ? name : PythonText::casefold(name));
+    unsigned char found = 0;
+    for (const char character : text) {
+        const auto byte = static_cast<unsigned char>(character);
+        found = static_cast<unsigned char>(found | (byte >= 0x80) | ((byte >= 'A') & (byte <= 'Z')));
+    }
+    return found == 0;
 }
 
 }  // namespace
 
-CaptureFileName::CaptureFileName(std::string_view path) : file_(foldedName(path)) {}
-
-std::string_view CaptureFileName::extension() const {
-    const std::string_view text = suffix();
-    return text.empty() ? text : text.substr(1);
-}
-
-std::string_view CaptureFileName::stem() const {
-    return name().substr(0, name().size() - suffix().size());
+CaptureFileName::CaptureFileName(std::string_view path) : name_(lastComponent(path)) {
+    if (!isFolded(name_)) {
+        folded_ = PythonText::casefold(name_);
+        name_ = folded_;
+    }
+    stemLength_ = name_.size() - PythonPath::suffix(name_).size();
 }
 
 }  // namespace vellark

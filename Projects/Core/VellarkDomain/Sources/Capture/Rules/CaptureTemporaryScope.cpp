@@ -37,7 +37,8 @@ bool isWithinAny(std::string_view path, Texts roots) {
 class NormalPath {
 public:
     explicit NormalPath(std::string_view path) : text_(path) {
-        if (PythonText::isNormalAbsolute(path)) return;
+        if (path.size() > 2 && path.ends_with('/')) text_.remove_suffix(1);
+        if (PythonText::isNormalAbsolute(text_)) return;
         made_ = PythonText::normpath(path);
         text_ = made_;
     }

@@ -3,9 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <string>
-#include <vector>
 
 namespace vellark {
 namespace {
@@ -59,23 +57,21 @@ TEST(CaptureArtifactRules, typesFilesBySuffixAndName) {
         EXPECT_EQ(type.category, row.type.category) << row.path;
         EXPECT_EQ(type.kind, row.type.kind) << row.path;
     }
-    for (const std::string_view name : Tables::codeFileNames)
-        EXPECT_EQ(CaptureRules::artifactType(upper(name), false).kind, "text") << name;
 }
 
-TEST(CaptureArtifactRules, excludesEachNameAndSuffixOfItsTables) {
-    EXPECT_EQ(Tables::credentialFiles.size(), 19U);
-    for (const std::string_view name : Tables::credentialFiles) {
-        EXPECT_TRUE(isExcluded("/p/" + upper(name))) << name;
+TEST(CaptureArtifactRules, heedsEachNameAndSuffixOfItsTables) {
+    for (const auto& [name, trait] : Tables::names.entries()) {
+        const bool isCode = trait == Tables::NameTrait::code;
+        EXPECT_EQ(isExcluded("/p/" + upper(name)), !isCode) << name;
+        EXPECT_EQ(CaptureRules::artifactType(upper(name), false).category == Category::code,
+                  isCode || name.ends_with(".json") || name.ends_with(".yaml") || name.ends_with(".yml"))
+            << name;
         EXPECT_FALSE(isExcluded("/p/x" + std::string(name) + ".md")) << name;
     }
-    for (const std::string_view suffix : Tables::keySuffixes)
-        EXPECT_TRUE(isExcluded("/p/a" + upper(suffix))) << suffix;
-    for (const std::string_view suffix : Tables::systemBinarySuffixes)
-        EXPECT_TRUE(isExcluded("/p/a.b" + std::string(suffix))) << suffix;
-    for (const std::string_view suffix : Tables::configSuffixes) {
+    for (const auto& [suffix, trait] : Tables::suffixes.entries()) {
+        const bool isConfiguration = trait == Tables::SuffixTrait::configuration;
         EXPECT_TRUE(isExcluded("/p/API-Key" + upper(suffix))) << suffix;
-        EXPECT_FALSE(isExcluded("/p/keyboard" + std::string(suffix))) << suffix;
+        EXPECT_EQ(isExcluded("/p/keyboard" + std::string(suffix)), !isConfiguration) << suffix;
     }
 }
 

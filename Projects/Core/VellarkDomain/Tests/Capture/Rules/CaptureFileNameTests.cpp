@@ -1,4 +1,5 @@
 #include "Support/RandomInput.hpp"
+#include <VellarkDomain/Capture/PythonPath.hpp>
 #include <VellarkDomain/Capture/PythonText.hpp>
 #include <VellarkDomain/Capture/Rules/CaptureFileName.hpp>
 
