@@ -35,4 +35,15 @@ bool continuesWord(char32_t scalar) {
            u_hasBinaryProperty(codePoint(scalar), UCHAR_GRAPHEME_EXTEND) != 0;
 }
 
+bool extendsCharacter(char32_t scalar) {
+    switch (u_getIntPropertyValue(codePoint(scalar), UCHAR_GRAPHEME_CLUSTER_BREAK)) {
+        case U_GCB_EXTEND:
+        case U_GCB_SPACING_MARK:
+        case U_GCB_ZWJ:
+            return true;
+        default:
+            return false;
+    }
+}
+
 }  // namespace vellark::ScalarProperties

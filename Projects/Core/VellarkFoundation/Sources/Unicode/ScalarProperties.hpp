@@ -18,6 +18,9 @@ namespace ScalarProperties {
 /// on the letter or has no shape of its own.
 [[nodiscard]] bool continuesWord(char32_t scalar);
 
+/// Whether the scalar belongs to the character (grapheme cluster) of what stands before it: a mark or a joiner.
+[[nodiscard]] bool extendsCharacter(char32_t scalar);
+
 }  // namespace ScalarProperties
 
 }  // namespace vellark
