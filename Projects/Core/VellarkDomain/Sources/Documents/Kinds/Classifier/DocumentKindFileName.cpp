@@ -82,10 +82,11 @@ std::vector<std::string_view> DocumentKindFileName::folders(const std::optional<
     constexpr std::size_t mostFolders = 3;
     std::string_view rest = directory;
     if (root) {
-        const std::string_view trimmedRoot = trimmed(*root, "/");
-        const std::string prefix = "/" + std::string(trimmedRoot);
-        if (!trimmedRoot.empty() && rest == prefix) return {};
-        if (!trimmedRoot.empty() && rest.starts_with(prefix + "/")) rest.remove_prefix(prefix.size());
+        const std::string_view project = trimmed(*root, "/");
+        const std::string_view inside = rest.substr(std::min(project.size() + 1, rest.size()));
+        const bool isBelow = !project.empty() && rest.starts_with('/') && rest.substr(1).starts_with(project) &&
+                             (inside.empty() || inside.front() == '/');
+        if (isBelow) rest = inside;
     }
     std::vector<std::string_view> result = components(rest);
     std::ranges::reverse(result);

@@ -97,9 +97,11 @@ private:
     void add(Words words, Role role, Kinds kinds, Origin origin) {
         for (const std::string_view word : words) {
             DocumentKindMatcher::normalize(word, normalized_);
-            for (const std::u32string& pattern : variants(normalized_)) {
-                addTerm(word, indexOf(pattern), role, kinds, origin);
-            }
+            if (normalized_.empty()) continue;
+            addTerm(word, indexOf(normalized_), role, kinds, origin);
+            if (normalized_.find(U' ') == normalized_.npos) continue;
+            const std::u32string joined = withoutJoiningBlanks(normalized_);
+            if (joined != normalized_) addTerm(word, indexOf(joined), role, kinds, origin);
         }
     }
 

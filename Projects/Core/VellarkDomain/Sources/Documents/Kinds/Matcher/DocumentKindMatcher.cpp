@@ -5,17 +5,18 @@
 
 #include <algorithm>
 #include <array>
-#include <cstring>
+#include <memory>
 
 // An automaton that follows every pattern through every scalar would mostly find what the boundary rules then refuse.
-// The rules themselves say where a match can begin, so the patterns stand in three tries, and a walk begins only there:
+// The rules themselves say where a match can stand, so the patterns are in three tries, and a walk begins only there:
 //
 //   anchored   words of spaced scripts, from each start of a word; Korean words, from each start of a Korean run
-//   floating   all others (Japanese, Chinese, Thai, Korean suffix nouns, words that mix scripts), from each scalar
-//   reversed   words that may end a longer word, from each end of a word backwards; for matches inside a word only,
-//              since those at its start are found in the first trie too
+//   floating   words of the other scripts, and Korean suffix nouns, from each scalar
+//   reversed   backwards: words that may end a longer word, from each end of a word, for matches inside words only
+//              (those at the start of one are found in the first trie); and words that begin in a spaced script and
+//              go on in another ("api 문서"), which may begin anywhere, from each scalar that ends one
 //
-// Most walks end within three steps. A floating walk is begun only where the next two scalars begin some pattern.
+// Most walks end within three steps, and none is begun where its first two scalars begin nothing.
 
 namespace vellark {
 
@@ -23,6 +24,8 @@ namespace {
 
 using Entry = MatcherAlphabet::Entry;
 using Hit = DocumentKindMatcher::Hit;
+
+constexpr char32_t noScalar = 0xFFFF'FFFF;
 
 bool flagAt(const std::vector<bool>& flags, std::size_t index) {
     return index < flags.size() && flags[index];
@@ -95,20 +98,28 @@ DoubleArray DocumentKindMatcher::tries(std::span<const std::u32string> patterns)
         if (std::ranges::find(all.subspan(start), 0U) != all.end()) return;
         keys[trie].push_back({all.subspan(start), pattern});
     };
-    for (std::uint32_t index = 0; index < patterns.size(); ++index) {
+    const auto addForward = [&](Trie trie, std::uint32_t index, MatcherAlphabet::Entry flag) {
         const std::u32string& pattern = patterns[index];
-        if (pattern.empty()) continue;
+        add(trie, index, pattern.begin(), pattern.end());
+        noteStart(trie, pattern.front(), pattern.size() > 1 ? pattern[1] : noScalar, flag);
+    };
+    const auto addBackward = [&](std::uint32_t index, MatcherAlphabet::Entry flag) {
+        const std::u32string& pattern = patterns[index];
+        add(reversed, index, pattern.rbegin(), pattern.rend());
+        noteStart(reversed, pattern.back(), pattern.size() > 1 ? pattern[pattern.size() - 2] : noScalar, flag);
+    };
+    for (std::uint32_t index = 0; index < patterns.size(); ++index) {
+        if (patterns[index].empty()) continue;
         const Traits& one = traits_[index];
-        if (one.spaced || (one.hangulStart && !one.suffixHead)) {
-            add(anchored, index, pattern.begin(), pattern.end());
-            alphabet_.set(pattern.front(), MatcherAlphabet::beginsAnchored);
+        if (one.spaced) {
+            addForward(anchored, index, MatcherAlphabet::beginsAnchored);
+            if (one.compound) addBackward(index, MatcherAlphabet::endsCompound);
+        } else if (one.hangulStart && !one.suffixHead) {
+            addForward(anchored, index, MatcherAlphabet::beginsAnchored);
+        } else if (ScalarClasses::isSpaceless(patterns[index].front())) {
+            addForward(floating, index, MatcherAlphabet::beginsFloating);
         } else {
-            add(floating, index, pattern.begin(), pattern.end());
-            addPair(pattern);
-        }
-        if (one.spaced && one.compound) {
-            add(reversed, index, pattern.rbegin(), pattern.rend());
-            alphabet_.set(pattern.back(), MatcherAlphabet::endsCompound);
+            addBackward(index, MatcherAlphabet::endsMixed);
         }
     }
 
@@ -132,10 +143,11 @@ DoubleArray DocumentKindMatcher::tries(std::span<const std::u32string> patterns)
     return DoubleArray(sorted);
 }
 
-void DocumentKindMatcher::addPair(std::u32string_view pattern) {
-    alphabet_.set(pattern.front(), pattern.size() == 1 ? MatcherAlphabet::isFloating : MatcherAlphabet::beginsFloating);
-    if (pattern.size() == 1) return;
-    const std::uint32_t hash = pairHash(alphabet_[pattern[0]], alphabet_[pattern[1]]);
+// Notes the first two scalars of a trie's key. A key of one scalar begins with any pair.
+void DocumentKindMatcher::noteStart(Trie trie, char32_t first, char32_t second, MatcherAlphabet::Entry flag) {
+    alphabet_.set(first, second == noScalar ? flag | MatcherAlphabet::isPattern : flag);
+    if (second == noScalar) return;
+    const std::uint32_t hash = pairHash(trie, alphabet_[first], alphabet_[second]);
     pairs_[hash / 64] |= std::uint64_t{1} << (hash % 64);
 }
 
@@ -146,8 +158,8 @@ public:
         : matcher_(matcher), array_(matcher.array_), text_(text), hits_(hits) {
         Entry* entries = few_.data();
         if (text.size() >= few_.size()) {
-            many_.resize(text.size() + 1);
-            entries = many_.data();
+            many_ = std::make_unique_for_overwrite<Entry[]>(text.size() + 1);
+            entries = many_.get();
         }
         for (std::size_t index = 0; index < text.size(); ++index) {
             entries[index] = matcher.alphabet_[text[index]];
@@ -157,19 +169,15 @@ public:
     }
 
     void run() {
+        constexpr Entry startsAnywhere = MatcherAlphabet::beginsFloating | MatcherAlphabet::endsMixed;
         Entry before = edge;
         Entry entry = entries_[0];
         for (std::size_t position = 0; position < text_.size(); ++position) {
             const Entry after = entries_[position + 1];
-            if ((entry & MatcherAlphabet::beginsAnchored) != 0 && startsAnchored(before, entry)) {
-                walk(anchored, position);
-            }
-            if ((entry & (MatcherAlphabet::beginsFloating | MatcherAlphabet::isFloating)) != 0 &&
-                ((entry & MatcherAlphabet::isFloating) != 0 || matcher_.hasPair(entry, after))) {
-                walk(floating, position);
-            }
-            if ((after & MatcherAlphabet::boundary) != 0 && (entry & MatcherAlphabet::endsCompound) != 0) {
-                walkBack(position + 1);
+            // Inside a word of a spaced script nothing begins and nothing ends.
+            if (((before | after) & MatcherAlphabet::boundary) != 0 || (entry & startsAnywhere) != 0 ||
+                (entry & MatcherAlphabet::hangul) != 0) {
+                visit(position, before, entry, after);
             }
             before = entry;
             entry = after;
@@ -178,6 +186,20 @@ public:
 
 private:
     static constexpr Entry edge = MatcherAlphabet::boundary;  // what stands before and behind a text
+
+    void visit(std::size_t position, Entry before, Entry entry, Entry after) {
+        if ((entry & MatcherAlphabet::beginsAnchored) != 0 && startsAnchored(before, entry) &&
+            matcher_.mayStart(anchored, entry, after)) {
+            walk(anchored, position);
+        }
+        if ((entry & MatcherAlphabet::beginsFloating) != 0 && matcher_.mayStart(floating, entry, after)) {
+            walk(floating, position);
+        }
+        const bool endsWord = (entry & MatcherAlphabet::endsCompound) != 0 && (after & MatcherAlphabet::boundary) != 0;
+        if ((endsWord || (entry & MatcherAlphabet::endsMixed) != 0) && matcher_.mayStart(reversed, entry, before)) {
+            walkBack(position + 1);
+        }
+    }
 
     void walk(Trie trie, std::size_t start) {
         DoubleArray::State state = array_.root(trie);
@@ -191,17 +213,23 @@ private:
         }
     }
 
-    // Words that end a longer word, which goes up to `end`.
     void walkBack(std::size_t end) {
         DoubleArray::State state = array_.root(reversed);
-        for (std::size_t start = end; start > 1;) {
+        for (std::size_t start = end; start > 0;) {
             state = array_.step(state, MatcherAlphabet::code(entries_[--start]));
             if (state == DoubleArray::none) return;
-            if (!array_.isEnd(state) || (entries_[start - 1] & MatcherAlphabet::boundary) != 0) continue;
-            for (auto pattern = array_.value(state); pattern != noPattern; pattern = nextCompound(pattern)) {
-                add(pattern, start, end);
+            if (!array_.isEnd(state)) continue;
+            for (auto pattern = array_.value(state); pattern != noPattern; pattern = traits(pattern).nextEqual) {
+                if (mayStandBack(traits(pattern), start, end)) add(pattern, start, end);
             }
         }
+    }
+
+    // Of equal patterns some may be compounds and some not.
+    [[nodiscard]] bool mayStandBack(const Traits& pattern, std::size_t start, std::size_t end) const {
+        if (!pattern.spaced) return mayEnd(pattern, end);
+        return pattern.compound && start > 0 && (entries_[start - 1] & MatcherAlphabet::boundary) == 0 &&
+               (entries_[end] & MatcherAlphabet::boundary) != 0;
     }
 
     [[nodiscard]] bool mayEnd(const Traits& pattern, std::size_t end) const {
@@ -218,14 +246,6 @@ private:
                (entries_[position + 1] & MatcherAlphabet::boundary) != 0;
     }
 
-    // Of equal patterns some may be compounds and some not.
-    [[nodiscard]] std::uint32_t nextCompound(std::uint32_t pattern) const {
-        do {
-            pattern = traits(pattern).nextEqual;
-        } while (pattern != noPattern && !traits(pattern).compound);
-        return pattern;
-    }
-
     [[nodiscard]] const Traits& traits(std::uint32_t pattern) const { return matcher_.traits_[pattern]; }
 
     void add(std::uint32_t pattern, std::size_t start, std::size_t end) {
@@ -237,7 +257,7 @@ private:
     std::u32string_view text_;
     std::vector<Hit>& hits_;
     std::array<Entry, 512> few_;  // a title needs no memory of its own
-    std::vector<Entry> many_;
+    std::unique_ptr<Entry[]> many_;
     const Entry* entries_ = nullptr;
 };
 

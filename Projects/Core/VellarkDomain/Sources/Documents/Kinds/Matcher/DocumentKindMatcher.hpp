@@ -86,20 +86,23 @@ private:
 
     [[nodiscard]] static std::vector<Traits> traits(const Patterns& patterns);
     [[nodiscard]] DoubleArray tries(std::span<const std::u32string> patterns);
-    void addPair(std::u32string_view pattern);
+    void noteStart(Trie trie, char32_t first, char32_t second, MatcherAlphabet::Entry flag);
 
-    [[nodiscard]] static std::uint32_t pairHash(MatcherAlphabet::Entry first, MatcherAlphabet::Entry second) {
-        const std::uint32_t mixed = MatcherAlphabet::code(first) * 0x9E37U + MatcherAlphabet::code(second);
-        return mixed & (pairBits - 1);
+    [[nodiscard]] static std::uint32_t pairHash(Trie trie, MatcherAlphabet::Entry first,
+                                                MatcherAlphabet::Entry second) {
+        const auto salt = static_cast<std::uint32_t>(trie) << 14;
+        return (salt + MatcherAlphabet::code(first) * 0x9E37U + MatcherAlphabet::code(second)) & (pairBits - 1);
     }
-    [[nodiscard]] bool hasPair(MatcherAlphabet::Entry first, MatcherAlphabet::Entry second) const {
-        const std::uint32_t hash = pairHash(first, second);
-        return ((pairs_[hash / 64] >> (hash % 64)) & 1) != 0;
+
+    /// False where no walk of the trie passes its first two scalars.
+    [[nodiscard]] bool mayStart(Trie trie, MatcherAlphabet::Entry first, MatcherAlphabet::Entry second) const {
+        const std::uint32_t hash = pairHash(trie, first, second);
+        return ((pairs_[hash / 64] >> (hash % 64)) & 1) != 0 || (first & MatcherAlphabet::isPattern) != 0;
     }
 
     std::vector<Traits> traits_;
     MatcherAlphabet alphabet_;
-    std::vector<std::uint64_t> pairs_;  // the pairs of codes that floating patterns begin with, hashed
+    std::vector<std::uint64_t> pairs_;  // hashed pairs of codes with which walks begin
     DoubleArray array_;
 };
 

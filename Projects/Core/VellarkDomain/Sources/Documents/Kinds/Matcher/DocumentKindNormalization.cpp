@@ -5,8 +5,12 @@
 #include <VellarkFoundation/Unicode/ScalarProperties.hpp>
 #include <VellarkFoundation/Unicode/UnicodeCase.hpp>
 
+#include <algorithm>
 #include <array>
+#include <bit>
+#include <cstring>
 #include <memory>
+#include <optional>
 
 // One pass over the bytes. Each scalar is emitted, emitted lower-case, dropped, or parts two words; below U+3000 a
 // table says which, so that only rare scalars ask for Unicode's data. A text with combining marks is first composed as
@@ -62,6 +66,22 @@ const std::array<char32_t, tableSize>& fateTable() {
     return *table;
 }
 
+constexpr std::uint64_t repeated(std::uint64_t byte) {
+    return byte * 0x0101'0101'0101'0101;
+}
+
+// Eight bytes that are ASCII letters and blanks, no two of the blanks side by side, in lower case; nothing for others.
+// Sums stay inside their bytes, as all are below 0x80.
+std::optional<std::uint64_t> loweredLetters(std::uint64_t bytes) {
+    constexpr std::uint64_t high = repeated(0x80);
+    if ((bytes & high) != 0) return std::nullopt;
+    const std::uint64_t lower = bytes | repeated(0x20);
+    const std::uint64_t letters = (lower + repeated(0x80 - 'a')) & ~(lower + repeated(0x80 - 'z' - 1)) & high;
+    const std::uint64_t blanks = ~((bytes ^ repeated(' ')) + repeated(0x7F)) & high;
+    if ((letters | blanks) != high || (blanks & (blanks << 8)) != 0) return std::nullopt;
+    return lower;
+}
+
 // A mark that a composed form may take in, or a part of a Korean syllable.
 bool mayCompose(char32_t scalar) {
     return (scalar >= 0x300 && scalar <= 0x36F) || (scalar >= 0x1100 && scalar <= 0x11FF) || scalar == 0x3099 ||
@@ -80,8 +100,7 @@ public:
         for (std::size_t offset = 0; offset < text_.size();) {
             const auto lead = static_cast<unsigned char>(text_[offset]);
             if (lead < 0x80) {
-                emit(fates[lead], lead);
-                ++offset;
+                offset = emitASCII(fates, offset);
                 continue;
             }
             const UTF8::Decoded decoded = decode(offset);
@@ -117,6 +136,36 @@ private:
         if (scalar < tableSize) return fates[scalar];
         if (ScalarClasses::isHangulSyllable(scalar)) return scalar;
         return computedFate(scalar);
+    }
+
+    // Emits the next ASCII bytes, up to eight; the offset behind them. Bytes that are not all letters and blanks are
+    // taken one by one as long as they are ASCII, before eight are tried again.
+    std::size_t emitASCII(const std::array<char32_t, tableSize>& fates, std::size_t offset) {
+        constexpr std::size_t most = 8;
+        if (text_.size() - offset >= most && emitLetters(offset)) return offset + most;
+        const std::size_t end = std::min(offset + most, text_.size());
+        for (; offset < end; ++offset) {
+            const auto byte = static_cast<unsigned char>(text_[offset]);
+            if (byte >= 0x80) break;
+            emit(fates[byte], byte);
+        }
+        return offset;
+    }
+
+    // Eight letters and blanks at once, of which a letter is the first.
+    bool emitLetters(std::size_t offset) {
+        std::array<unsigned char, 8> bytes;
+        std::memcpy(bytes.data(), text_.data() + offset, bytes.size());
+        const auto lower = loweredLetters(std::bit_cast<std::uint64_t>(bytes));
+        if (!lower || bytes.front() == ' ') return false;
+        if (isParted_) separate();
+        bytes = std::bit_cast<std::array<unsigned char, 8>>(*lower);
+        for (std::size_t index = 0; index < bytes.size(); ++index) {
+            next_[index] = bytes[index];
+        }
+        isParted_ = bytes.back() == ' ';
+        next_ += isParted_ ? 7 : 8;
+        return true;
     }
 
     void emit(char32_t fate, char32_t scalar) {

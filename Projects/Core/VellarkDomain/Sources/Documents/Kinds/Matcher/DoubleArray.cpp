@@ -89,7 +89,7 @@ private:
             if (std::ranges::all_of(codes_, [&](Code code) { return isFree(base + code); })) return base;
             cell = next_[cell];
         }
-        const auto base = static_cast<std::uint32_t>(array_.cells_.size());
+        const std::uint32_t base = std::max(lastTaken_ + 1, codes_.front()) - codes_.front();
         ensure(base + codes_.back() + 1);
         return base;
     }
@@ -110,6 +110,7 @@ private:
 
     void take(std::uint32_t cell, State owner) {
         array_.cells_[cell].owner = owner;
+        lastTaken_ = std::max(lastTaken_, cell);
         const std::uint32_t before = previous_[cell];
         const std::uint32_t after = next_[cell];
         (before == noCell ? first_ : next_[before]) = after;
@@ -117,7 +118,7 @@ private:
     }
 
     void ensure(std::size_t size) {
-        if (size > array_.cells_.size()) grow(std::max(size, array_.cells_.size() + array_.cells_.size() / 8));
+        if (size > array_.cells_.size()) grow(size);
     }
 
     // Adds free cells, in ascending order at the end of the list.
@@ -151,6 +152,7 @@ private:
     std::vector<std::uint32_t> previous_;
     std::uint32_t first_ = noCell;
     std::uint32_t last_ = noCell;
+    std::uint32_t lastTaken_ = 0;
     Code highestCode_ = 0;
 };
 

@@ -2,9 +2,9 @@
 
 #include <array>
 #include <cstdint>
+#include <map>
 #include <span>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace vellark {
@@ -17,38 +17,39 @@ public:
     using Entry = std::uint32_t;
 
     enum Flag : Entry {
-        boundary = 1U << 0,        ///< a word of a spaced script may end before it and begin behind it
-        hangul = 1U << 1,          ///< a Korean syllable
-        beginsAnchored = 1U << 2,  ///< what the matcher's tries begin with; see DocumentKindMatcher
+        boundary = 1U << 0,  ///< a word of a spaced script may end before it and begin behind it
+        hangul = 1U << 1,    ///< a Korean syllable
+
+        // What the scalar begins or ends in the matcher's tries; see DocumentKindMatcher.
+        beginsAnchored = 1U << 2,
         beginsFloating = 1U << 3,
-        isFloating = 1U << 4,  ///< is a floating pattern by itself
-        endsCompound = 1U << 5,
+        endsCompound = 1U << 4,
+        endsMixed = 1U << 5,
+        isPattern = 1U << 6,  ///< is a pattern by itself, or begins or ends one of which it is told nothing more
     };
     static constexpr unsigned flagBits = 8;
 
     explicit MatcherAlphabet(std::span<const std::u32string> patterns);
 
     /// A value above U+10FFFF has no entry, and matches nothing.
-    void set(char32_t scalar, Flag flag) {
-        if (Entry* const found = entry(scalar)) *found |= flag;
+    void set(char32_t scalar, Entry flags) {
+        if (Entry* const found = entry(scalar)) *found |= flags;
     }
 
     [[nodiscard]] Entry operator[](char32_t scalar) const {
-        const std::size_t page = scalar >> 8;
-        return page < pages_.size() ? blocks_[pages_[page]][scalar & 0xFF] : 0;
+        return scalar < firstPlane ? entries_[scalar] : beyondFirstPlane(scalar);
     }
 
-    [[nodiscard]] static std::uint32_t code(Entry entry) { return entry >> flagBits; }
+    [[nodiscard]] static constexpr std::uint32_t code(Entry entry) { return entry >> flagBits; }
 
 private:
-    using Block = std::array<Entry, 256>;
+    static constexpr std::size_t firstPlane = 0x1'0000;
 
-    void addClasses();
     [[nodiscard]] Entry* entry(char32_t scalar);
+    [[nodiscard]] Entry beyondFirstPlane(char32_t scalar) const;
 
-    std::array<std::uint16_t, 0x1100> pages_{};  // of 256 scalars each
-    std::vector<Block> blocks_;
-    std::vector<bool> isShared_;  // blocks that several pages use
+    std::vector<Entry> entries_;
+    std::map<char32_t, Entry> others_;  // a few emoji at most
 };
 
 }  // namespace vellark
