@@ -1,14 +1,14 @@
 #include <VellarkFoundation/Text/UTF8.hpp>
 #include <VellarkFoundation/Unicode/CharacterClass.hpp>
-#include <VellarkFoundation/Unicode/ScalarProperties.hpp>
+#include <VellarkFoundation/Unicode/ScalarData.hpp>
 #include <VellarkFoundation/Unicode/UnicodeCase.hpp>
 
 namespace vellark::CharacterClass {
 
 namespace {
 
-bool has(char32_t scalar, ScalarProperties::Word bit) {
-    return (ScalarProperties::of(scalar) & bit) != 0;
+bool has(char32_t scalar, ScalarData::Word bit) {
+    return (ScalarData::of(scalar) & bit) != 0;
 }
 
 char32_t firstScalar(std::string_view character) {
@@ -22,7 +22,7 @@ bool isSingleScalar(std::string_view character) {
 }  // namespace
 
 bool isWhitespace(char32_t scalar) {
-    return has(scalar, ScalarProperties::whitespace);
+    return has(scalar, ScalarData::whitespace);
 }
 
 bool isNewline(char32_t scalar) {
@@ -30,31 +30,31 @@ bool isNewline(char32_t scalar) {
 }
 
 bool isLetter(char32_t scalar) {
-    return has(scalar, ScalarProperties::letter);
+    return has(scalar, ScalarData::letter);
 }
 
 bool isNumber(char32_t scalar) {
-    return has(scalar, ScalarProperties::number);
+    return has(scalar, ScalarData::number);
 }
 
 bool isDecimalDigit(char32_t scalar) {
-    return has(scalar, ScalarProperties::decimalDigit);
+    return has(scalar, ScalarData::decimalDigit);
 }
 
 bool isPunctuation(char32_t scalar) {
-    return has(scalar, ScalarProperties::punctuation);
+    return has(scalar, ScalarData::punctuation);
 }
 
 bool isSymbol(char32_t scalar) {
-    return has(scalar, ScalarProperties::symbol);
+    return has(scalar, ScalarData::symbol);
 }
 
 bool isControl(char32_t scalar) {
-    return has(scalar, ScalarProperties::control);
+    return has(scalar, ScalarData::control);
 }
 
 bool isMark(char32_t scalar) {
-    return has(scalar, ScalarProperties::mark);
+    return has(scalar, ScalarData::mark);
 }
 
 bool isWhitespace(std::string_view character) {
@@ -74,12 +74,12 @@ bool isNumber(std::string_view character) {
 }
 
 bool isUppercase(std::string_view character) {
-    if (isSingleScalar(character)) return has(firstScalar(character), ScalarProperties::uppercase);
+    if (isSingleScalar(character)) return has(firstScalar(character), ScalarData::uppercase);
     return UnicodeCase::upper(character) == character && UnicodeCase::lower(character) != character;
 }
 
 bool isLowercase(std::string_view character) {
-    if (isSingleScalar(character)) return has(firstScalar(character), ScalarProperties::lowercase);
+    if (isSingleScalar(character)) return has(firstScalar(character), ScalarData::lowercase);
     return UnicodeCase::lower(character) == character && UnicodeCase::upper(character) != character;
 }
 

@@ -5,7 +5,7 @@
 
 #include <VellarkFoundation/Text/UTF8.hpp>
 #include <VellarkFoundation/Unicode/Graphemes.hpp>
-#include <VellarkFoundation/Unicode/ScalarProperties.hpp>
+#include <VellarkFoundation/Unicode/ScalarData.hpp>
 
 #include <algorithm>
 #include <array>
@@ -17,7 +17,7 @@ namespace vellark {
 
 namespace {
 
-using ScalarProperties::Break;
+using ScalarData::Break;
 
 constexpr std::uint32_t bit(Break value) {
     return 1U << static_cast<unsigned>(value);
@@ -152,10 +152,10 @@ std::size_t next(std::string_view text, std::size_t start) {
     const auto first = UTF8::decode(text, start);
     std::size_t end = start + first.byteCount;
     if (end < text.size() && first.scalar < 0x80 && first.scalar != '\r' && isASCIIByte(text[end])) return end;
-    Cluster cluster(ScalarProperties::breakOf(first.scalar));
+    Cluster cluster(ScalarData::breakOf(first.scalar));
     while (end < text.size()) {
         const auto following = UTF8::decode(text, end);
-        if (!cluster.takes(ScalarProperties::breakOf(following.scalar))) break;
+        if (!cluster.takes(ScalarData::breakOf(following.scalar))) break;
         end += following.byteCount;
     }
     return end;

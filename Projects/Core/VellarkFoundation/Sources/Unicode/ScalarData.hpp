@@ -6,7 +6,7 @@ namespace vellark {
 
 /// What a scalar is, read from ICU once per block of 256 scalars and kept: a look-up costs two loads. Made for the
 /// routines of this room, which ask for every scalar of long texts.
-namespace ScalarProperties {
+namespace ScalarData {
 
 /// How a scalar takes part in extended grapheme clusters.
 enum class Break : std::uint8_t {
@@ -51,6 +51,6 @@ inline constexpr Word symbol = 1 << 14;        ///< general categories S*
     return static_cast<Break>(of(scalar) & breakMask);
 }
 
-}  // namespace ScalarProperties
+}  // namespace ScalarData
 
 }  // namespace vellark

@@ -1,7 +1,7 @@
 // ICU answers each property by a look-up of its own. Texts use few scripts, so their blocks are read once, on first
 // use, and kept to the end of the process: no table to generate, none to disagree with the ICU that is installed.
 
-#include <VellarkFoundation/Unicode/ScalarProperties.hpp>
+#include <VellarkFoundation/Unicode/ScalarData.hpp>
 
 #include <unicode/uchar.h>
 #include <unicode/uscript.h>
@@ -11,7 +11,7 @@
 #include <cstddef>
 #include <memory>
 
-namespace vellark::ScalarProperties {
+namespace vellark::ScalarData {
 
 namespace {
 
@@ -116,4 +116,4 @@ Word of(char32_t scalar) {
     return (block != nullptr ? *block : readBlock(index))[scalar % blockSize];
 }
 
-}  // namespace vellark::ScalarProperties
+}  // namespace vellark::ScalarData
