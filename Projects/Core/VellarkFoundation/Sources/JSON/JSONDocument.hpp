@@ -57,6 +57,7 @@ public:
     [[nodiscard]] JSONValue value() const;
 
 private:
+    friend class JSONCursor;
     friend class JSONDocument;
     friend class JSONDocumentBuilder;
 

@@ -1,44 +1,9 @@
 #include <VellarkFoundation/JSON/JSONStringScan.hpp>
-
-#include <cstdint>
-#include <cstring>
-
-// Eight bytes at a time are passed over while none of them is a quote, a backslash or a control character. The tests
-// are the usual ones on whole words: a byte of `word - 0x01…` borrows into its high bit only when the byte was zero.
+#include <VellarkFoundation/Text/UTF8.hpp>
 
 namespace vellark::JSONStringScan {
 
 namespace {
-
-constexpr std::uint64_t repeated(unsigned char byte) {
-    return 0x0101010101010101ULL * byte;
-}
-
-// May also report a byte behind one that is zero, never misses one: enough for "none of them".
-constexpr std::uint64_t zeroBytes(std::uint64_t word) {
-    return (word - repeated(1)) & ~word & repeated(0x80);
-}
-
-constexpr bool isPlain(std::uint64_t word) {
-    const std::uint64_t controls = (word - repeated(0x20)) & ~word & repeated(0x80);
-    return (controls | zeroBytes(word ^ repeated('"')) | zeroBytes(word ^ repeated('\\'))) == 0;
-}
-
-std::size_t skipPlain(std::string_view text, std::size_t offset) {
-    while (offset + 8 <= text.size()) {
-        std::uint64_t word;
-        std::memcpy(&word, text.data() + offset, 8);
-        if (!isPlain(word)) break;
-        offset += 8;
-    }
-    const auto stops = [](char character) {
-        return character == '"' || character == '\\' || static_cast<unsigned char>(character) < 0x20;
-    };
-    while (offset < text.size() && !stops(text[offset])) {
-        ++offset;
-    }
-    return offset;
-}
 
 std::optional<unsigned> hexadecimal(std::string_view text, std::size_t offset) {
     if (offset + 4 > text.size()) return std::nullopt;
@@ -72,11 +37,28 @@ std::optional<std::size_t> endOfEscape(std::string_view text, std::size_t offset
     return offset + 12;
 }
 
+char simpleEscape(char letter) {
+    switch (letter) {
+        case 'b':
+            return '\b';
+        case 'f':
+            return '\f';
+        case 'n':
+            return '\n';
+        case 'r':
+            return '\r';
+        case 't':
+            return '\t';
+        default:
+            return letter;
+    }
+}
+
 }  // namespace
 
 std::optional<std::size_t> closingQuote(std::string_view text, std::size_t offset) {
     while (true) {
-        offset = skipPlain(text, offset);
+        offset = endOfPlain(text, offset);
         if (offset == text.size()) return std::nullopt;
         if (text[offset] == '"') return offset;
         if (text[offset] != '\\') return std::nullopt;
@@ -84,6 +66,29 @@ std::optional<std::size_t> closingQuote(std::string_view text, std::size_t offse
         if (!end) return std::nullopt;
         offset = *end;
     }
+}
+
+std::string decoded(std::string_view content) {
+    std::string text;
+    text.reserve(content.size());
+    for (std::size_t offset = 0; offset < content.size();) {
+        const std::size_t end = endOfPlain(content, offset);
+        text += content.substr(offset, end - offset);
+        if (end == content.size()) break;
+        offset = end + 2;
+        if (content[end + 1] != 'u') {
+            text += simpleEscape(content[end + 1]);
+            continue;
+        }
+        char32_t scalar = *hexadecimal(content, end + 2);
+        offset = end + 6;
+        if (scalar >= 0xD800 && scalar <= 0xDBFF) {
+            scalar = 0x10000 + ((scalar - 0xD800) << 10) + (*hexadecimal(content, end + 8) - 0xDC00);
+            offset = end + 12;
+        }
+        UTF8::append(text, scalar);
+    }
+    return text;
 }
 
 }  // namespace vellark::JSONStringScan

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <VellarkFoundation/Records/OptionalBox.hpp>
+
 #include <cstddef>
 #include <functional>
 #include <map>
@@ -28,16 +30,24 @@ public:
     void required(std::string_view, const Value& value) {
         add(value);
     }
-    template <class Value>
-    void optional(std::string_view, const std::optional<Value>& value) {
+    template <class Optional>
+    void optional(std::string_view, const Optional& value) {
         add(value);
     }
     template <class Value, class Default>
     void withDefault(std::string_view, const Value& value, const Default&) {
         add(value);
     }
+    template <class Value, class Default>
+    void whenAbsent(std::string_view, const Value& value, const Default&) {
+        add(value);
+    }
+    template <class Optional>
+    void tolerant(std::string_view, const Optional& value) {
+        add(value);
+    }
     template <class Value>
-    void tolerant(std::string_view, const std::optional<Value>& value) {
+    void unstored(const Value& value) {
         add(value);
     }
 
@@ -53,6 +63,11 @@ public:
     }
     template <class Value>
     void add(const std::optional<Value>& value) {
+        mix(value ? 1 : 0);
+        if (value) add(*value);
+    }
+    template <class Value>
+    void add(const OptionalBox<Value>& value) {
         mix(value ? 1 : 0);
         if (value) add(*value);
     }

@@ -28,7 +28,8 @@
 //         fields.tolerant("provenance", record.provenance);
 //     }
 //
-// which names its keys in the order in which they are written. RecordWriter writes by the same description.
+// which names its keys in the order in which they are written; fields that may be absent are a std::optional or an
+// OptionalBox. RecordWriter writes by the same description.
 //
 // Null under a key that is optional or has a default counts as absent. Unknown keys are ignored, and of equal keys the
 // last counts. Values are read by `decodeValue`, which a type with a form of its own overloads.
@@ -165,8 +166,8 @@ public:
     }
 
     /// Absent and null give nothing; a value of another type fails.
-    template <class Value>
-    void optional(std::string_view key, std::optional<Value>& value) {
+    template <class Optional>
+    void optional(std::string_view key, Optional& value) {
         value.reset();
         if (context_.hasFailed()) return;
         const auto node = find(key);
@@ -186,14 +187,32 @@ public:
         }
     }
 
+    /// Absent gives the default; null fails like any other value of another type.
+    template <class Value, class Default>
+    void whenAbsent(std::string_view key, Value& value, Default&& fallback) {
+        if (context_.hasFailed()) return;
+        const auto node = find(key);
+        if (!node) {
+            value = std::forward<Default>(fallback);
+        } else if (!decodeValue(*node, value, context_)) {
+            context_.failedIn(key);
+        }
+    }
+
     /// As `optional`, but a value that cannot be read counts as absent.
-    template <class Value>
-    void tolerant(std::string_view key, std::optional<Value>& value) {
+    template <class Optional>
+    void tolerant(std::string_view key, Optional& value) {
         if (context_.hasFailed()) return;
         optional(key, value);
         if (!context_.hasFailed()) return;
         context_.forgive();
         value.reset();
+    }
+
+    /// Part of the record's value but not of the file: as it is made, after reading.
+    template <class Value>
+    void unstored(Value& value) {
+        value = Value{};
     }
 
     /// True when some member was not asked for, which is where equal keys hide.
@@ -250,9 +269,7 @@ bool decodeValue(JSONNode node, std::vector<Element>& list, DecodingContext& con
     list.clear();
     list.reserve(node.count());
     for (const JSONNode element : node.elements()) {
-        Element value{};
-        if (!decodeValue(element, value, context)) return context.failedIn(list.size());
-        list.push_back(std::move(value));
+        if (!decodeValue(element, list.emplace_back(), context)) return context.failedIn(list.size() - 1);
     }
     return true;
 }
@@ -290,9 +307,16 @@ template <class Record>
     return record;
 }
 
+/// The quick way, in DirectRecordReader.hpp: false when the text has to be read by a RecordReader.
+template <class Value>
+bool readDirectly(std::string_view text, Value& value);
+
 /// The record of a JSON text, which must hold one object or array and nothing else.
 template <class Record>
 [[nodiscard]] Result<Record, DecodingError> readRecord(std::string_view text) {
+    Result<Record, DecodingError> record;
+    if (readDirectly(text, *record)) return record;
+    *record = Record{};  // gives back what was read so far
     const auto document = JSONDocument::parse(text);
     if (!document) {
         return failure(DecodingError{
@@ -302,3 +326,5 @@ template <class Record>
 }
 
 }  // namespace vellark
+
+#include <VellarkFoundation/Records/DirectRecordReader.hpp>

@@ -100,8 +100,8 @@ public:
         if (!encodeValue(context_, value)) context_.failedIn(key);
     }
 
-    template <class Value>
-    void optional(std::string_view key, const std::optional<Value>& value) {
+    template <class Optional>
+    void optional(std::string_view key, const Optional& value) {
         if (value) required(key, *value);
     }
 
@@ -110,10 +110,18 @@ public:
         required(key, value);
     }
 
-    template <class Value>
-    void tolerant(std::string_view key, const std::optional<Value>& value) {
+    template <class Value, class Default>
+    void whenAbsent(std::string_view key, const Value& value, const Default&) {
+        required(key, value);
+    }
+
+    template <class Optional>
+    void tolerant(std::string_view key, const Optional& value) {
         optional(key, value);
     }
+
+    template <class Value>
+    void unstored(const Value&) {}
 
 private:
     EncodingContext& context_;
@@ -159,6 +167,16 @@ bool encodeValue(EncodingContext& context, const std::map<std::string, Value, Co
     }
     context.json.endObject();
     return true;
+}
+
+/// Hands the JSON text of a record over in pieces, the last one with a call of its own. After an error some pieces may
+/// have been handed over.
+template <class Record>
+[[nodiscard]] Result<void, EncodingError> writeRecord(const Record& record, CompactJSONWriter::Sink sink) {
+    EncodingContext context{.json = CompactJSONWriter(std::move(sink)), .failedPath = {}};
+    if (!encodeValue(context, record)) return failure(EncodingError{.path = context.failedPath.value_or("")});
+    context.json.flush();
+    return {};
 }
 
 /// The JSON text of a record.

@@ -84,42 +84,6 @@ void append(std::string& text, char32_t scalar) {
     }
 }
 
-// The quick half of validation: passes over ASCII and over sequences of two and three bytes, which are nearly all there
-// is, a word at a time. Gives the offset of the first byte that it leaves to `decodeMultibyte`, or the text's end.
-std::size_t skipCommonSequences(std::string_view text, std::size_t offset) {
-    while (offset + 8 <= text.size()) {
-        std::uint64_t word;
-        std::memcpy(&word, text.data() + offset, 8);
-        if ((word & 0x8080808080808080) == 0) {
-            offset += 8;
-            continue;
-        }
-        offset += asciiRun(text.substr(0, offset + 8), offset);
-        while (offset + 4 <= text.size()) {
-            const auto byteAt = [&](std::size_t index) { return static_cast<unsigned char>(text[offset + index]); };
-            const unsigned lead = byteAt(0);
-            if (lead < 0x80) break;
-            const bool isThree =
-                lead >= 0xE1 && lead <= 0xEF && lead != 0xED && isContinuation(byteAt(1)) && isContinuation(byteAt(2));
-            const bool isTwo = lead >= 0xC2 && lead <= 0xDF && isContinuation(byteAt(1));
-            if (!isThree && !isTwo) return offset;
-            offset += isThree ? 3 : 2;
-        }
-    }
-    return offset;
-}
-
-bool isValid(std::string_view text) {
-    std::size_t offset = 0;
-    while (true) {
-        offset = skipCommonSequences(text, offset);
-        if (offset >= text.size()) return true;
-        const Decoded decoded = decode(text, offset);
-        if (!decoded.wellFormed) return false;
-        offset += decoded.byteCount;
-    }
-}
-
 std::string replacingInvalid(std::string_view text) {
     if (isValid(text)) return std::string(text);
     std::string result;

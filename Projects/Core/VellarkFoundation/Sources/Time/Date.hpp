@@ -1,6 +1,8 @@
 #pragma once
 
 #include <compare>
+#include <cstddef>
+#include <functional>
 
 namespace vellark {
 
@@ -14,3 +16,10 @@ struct Date {
 };
 
 }  // namespace vellark
+
+template <>
+struct std::hash<vellark::Date> {
+    std::size_t operator()(const vellark::Date& date) const noexcept {
+        return std::hash<double>()(date.secondsSince1970);
+    }
+};

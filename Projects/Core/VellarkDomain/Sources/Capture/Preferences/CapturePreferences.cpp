@@ -1,5 +1,5 @@
 #include <VellarkDomain/Capture/Preferences/CapturePreferences.hpp>
-#include <VellarkFoundation/Text/UTF8.hpp>
+#include <VellarkFoundation/Text/Whitespace.hpp>
 #include <VellarkFoundation/Unicode/UnicodeCase.hpp>
 
 #include <algorithm>
@@ -17,25 +17,6 @@ constexpr auto starterCodeExtensions = std::to_array<std::string_view>({"swift",
 
 /// Longest extension, in characters, all of them ASCII.
 constexpr std::size_t longestExtension = 20;
-
-// White space and line ends as the interface toolkit trims them, the zero width space included.
-bool isTrimmed(char32_t scalar) {
-    return (scalar >= 0x09 && scalar <= 0x0D) || scalar == 0x20 || scalar == 0x85 || scalar == 0xA0 ||
-           scalar == 0x1680 || (scalar >= 0x2000 && scalar <= 0x200B) || scalar == 0x2028 || scalar == 0x2029 ||
-           scalar == 0x202F || scalar == 0x205F || scalar == 0x3000;
-}
-
-std::string_view trimmed(std::string_view text) {
-    while (!text.empty() && isTrimmed(UTF8::decode(text, 0).scalar)) {
-        text.remove_prefix(UTF8::decode(text, 0).byteCount);
-    }
-    while (!text.empty()) {
-        const std::size_t last = UTF8::previousOffset(text, text.size());
-        if (!isTrimmed(UTF8::decode(text, last).scalar)) break;
-        text = text.substr(0, last);
-    }
-    return text;
-}
 
 bool isLetterOrDigit(char character) {
     return (character >= 'a' && character <= 'z') || (character >= '0' && character <= '9');
@@ -71,7 +52,7 @@ CapturePreferences::CapturePreferences() {
 }
 
 std::optional<std::string> CapturePreferences::normalizedExtension(std::string_view text) {
-    std::string extension = UnicodeCase::lower(trimmed(text));
+    std::string extension = UnicodeCase::lower(Whitespace::trimmedWithNewlines(text));
     if (extension.starts_with('.')) extension.erase(0, 1);
     if (extension.empty() || extension.size() > longestExtension || !isLetterOrDigit(extension.front())) {
         return std::nullopt;
