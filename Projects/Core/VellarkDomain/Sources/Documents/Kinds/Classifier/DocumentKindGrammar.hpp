@@ -1,7 +1,7 @@
 #pragma once
 
 #include <VellarkDomain/Documents/Kinds/Classifier/DocumentKindSegment.hpp>
-#include <VellarkDomain/Documents/Kinds/RangeCover.hpp>
+#include <VellarkDomain/Text/RangeCover.hpp>
 
 #include <array>
 #include <optional>

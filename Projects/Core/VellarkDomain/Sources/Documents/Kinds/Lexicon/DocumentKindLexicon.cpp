@@ -1,6 +1,6 @@
 #include <VellarkDomain/Documents/Kinds/Lexicon/DocumentKindLexicon.hpp>
 #include <VellarkDomain/Documents/Kinds/Matcher/ScalarClasses.hpp>
-#include <VellarkDomain/Documents/Kinds/RangeCover.hpp>
+#include <VellarkDomain/Text/RangeCover.hpp>
 #include <VellarkDomain/Documents/Kinds/Rules/DocumentKindRules.hpp>
 
 #include <algorithm>
