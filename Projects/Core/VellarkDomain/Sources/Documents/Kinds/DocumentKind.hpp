@@ -3,6 +3,10 @@
 #include <VellarkFoundation/Records/Enumeration.hpp>
 
 #include <array>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
 
 namespace vellark {
 
@@ -127,5 +131,49 @@ inline constexpr auto caseTable<DocumentKind> = std::to_array<CaseName<DocumentK
     {DocumentKind::conversation, "conversation"},
     {DocumentKind::other, "other"},
 });
+
+/// Where a kind belongs.
+enum class DocumentKindGroup { development, planning, design, marketing, management, content, learning, personal };
+
+template <>
+inline constexpr auto caseTable<DocumentKindGroup> = std::to_array<CaseName<DocumentKindGroup>>({
+    {DocumentKindGroup::development, "development"},
+    {DocumentKindGroup::planning, "planning"},
+    {DocumentKindGroup::design, "design"},
+    {DocumentKindGroup::marketing, "marketing"},
+    {DocumentKindGroup::management, "management"},
+    {DocumentKindGroup::content, "content"},
+    {DocumentKindGroup::learning, "learning"},
+    {DocumentKindGroup::personal, "personal"},
+});
+
+/// What is known of the kinds and their groups. The raw value is the identifier of both.
+namespace DocumentKinds {
+
+/// What the interface shows, a key of the catalogues.
+[[nodiscard]] std::string_view titleKey(DocumentKind kind);
+[[nodiscard]] std::string_view titleKey(DocumentKindGroup group);
+
+/// The same in the language of the user.
+[[nodiscard]] std::string title(DocumentKind kind);
+[[nodiscard]] std::string title(DocumentKindGroup group);
+
+[[nodiscard]] constexpr std::string_view id(DocumentKind kind) {
+    return rawValue(kind);
+}
+[[nodiscard]] constexpr std::string_view id(DocumentKindGroup group) {
+    return rawValue(group);
+}
+
+/// Nothing for `conversation` and `other`.
+[[nodiscard]] std::optional<DocumentKindGroup> group(DocumentKind kind);
+
+/// The name of the kind's picture; nothing for `other`.
+[[nodiscard]] std::optional<std::string_view> symbol(DocumentKind kind);
+
+/// The kinds among which a model may be asked to choose, in their order: all but `conversation`.
+[[nodiscard]] std::span<const DocumentKind> modelChoices();
+
+}  // namespace DocumentKinds
 
 }  // namespace vellark

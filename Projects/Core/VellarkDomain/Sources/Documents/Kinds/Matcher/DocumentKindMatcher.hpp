@@ -1,0 +1,109 @@
+#pragma once
+
+#include <VellarkDomain/Documents/Kinds/Matcher/DoubleArray.hpp>
+#include <VellarkDomain/Documents/Kinds/Matcher/MatcherAlphabet.hpp>
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace vellark {
+
+/// Finds many patterns in a text at once, by the word boundaries of each writing system:
+///
+///   * a word of a spaced script (Latin, Cyrillic) matches as a whole word. One that is `plural` may have an English
+///     "s" or "es" behind it; one that is `compound` may end a longer word ("projektplan" holds "plan").
+///   * a word that begins with a Korean syllable matches only where none stands before it, unless it is a `suffixHead`;
+///     one that ends with a Korean syllable may be followed directly by a particle, but by no other syllable.
+///   * Japanese, Chinese and Thai match anywhere.
+///
+/// Text and patterns are normalised scalars (see `normalize`), and positions count scalars. Immutable, for any thread.
+///
+///     const DocumentKindMatcher matcher({.patterns = patterns, .plural = plural});
+///     matcher.hits(DocumentKindMatcher::normalize("Launch Plans, v2"))     {pattern of "plan", 7, 11}
+class DocumentKindMatcher {
+public:
+    struct Hit {
+        std::uint32_t pattern = 0;  ///< index of the pattern
+        std::uint32_t start = 0;
+        std::uint32_t end = 0;  ///< exclusive; an English ending does not belong to the match
+
+        bool operator==(const Hit&) const = default;
+    };
+
+    /// A pattern without a flag (a list of flags may be shorter than that of the patterns) has the flag false. An empty
+    /// pattern never matches, and keeps its index.
+    struct Patterns {
+        std::span<const std::u32string> patterns;
+        std::vector<bool> suffixHead = {};
+        std::vector<bool> plural = {};
+        std::vector<bool> compound = {};
+    };
+
+    explicit DocumentKindMatcher(const Patterns& patterns);
+
+    /// All matches by their end, then from the longest to the shortest, then by index. Texts are shorter than 2^32
+    /// scalars. The cost is linear in the text, with the longest pattern as the worst factor.
+    [[nodiscard]] std::vector<Hit> hits(std::u32string_view text) const;
+
+    /// The same in place of what `hits` held, which keeps its memory.
+    void hits(std::u32string_view text, std::vector<Hit>& hits) const;
+
+    /// The form in which texts and patterns are compared: letters lower-case and in full width none, words parted by
+    /// single blanks, digits, apostrophes and all punctuation gone ("Roadmap_v2.1" gives "roadmap v"). Ill-formed UTF-8
+    /// parts words.
+    [[nodiscard]] static std::u32string normalize(std::string_view text);
+
+    /// The same in place of what `result` held, which keeps its memory.
+    static void normalize(std::string_view text, std::u32string& result);
+
+    /// Normalised scalars as UTF-8, without surrogates and values above U+10FFFF.
+    [[nodiscard]] static std::string normalizedText(std::u32string_view scalars);
+
+    /// Whether the Korean syllables from `position` on, up to the first scalar that is none, are a particle.
+    [[nodiscard]] static bool isParticle(std::u32string_view scalars, std::size_t position);
+
+private:
+    class Scan;
+
+    struct Traits {
+        bool spaced = false;
+        bool plural = false;
+        bool compound = false;
+        bool hangulStart = false;
+        bool hangulEnd = false;
+        bool suffixHead = false;
+        std::uint32_t length = 0;
+        std::uint32_t nextEqual = noPattern;  // the next pattern of the same text
+    };
+
+    static constexpr std::uint32_t noPattern = 0xFFFF'FFFF;
+    static constexpr std::uint32_t pairBits = 1U << 16;
+
+    enum Trie : std::size_t { anchored, floating, reversed, trieCount };
+
+    [[nodiscard]] static std::vector<Traits> traits(const Patterns& patterns);
+    [[nodiscard]] DoubleArray tries(std::span<const std::u32string> patterns);
+    void noteStart(Trie trie, char32_t first, char32_t second, MatcherAlphabet::Entry flag);
+
+    [[nodiscard]] static std::uint32_t pairHash(Trie trie, MatcherAlphabet::Entry first,
+                                                MatcherAlphabet::Entry second) {
+        const auto salt = static_cast<std::uint32_t>(trie) << 14;
+        return (salt + MatcherAlphabet::code(first) * 0x9E37U + MatcherAlphabet::code(second)) & (pairBits - 1);
+    }
+
+    /// False where no walk of the trie passes its first two scalars.
+    [[nodiscard]] bool mayStart(Trie trie, MatcherAlphabet::Entry first, MatcherAlphabet::Entry second) const {
+        const std::uint32_t hash = pairHash(trie, first, second);
+        return ((pairs_[hash / 64] >> (hash % 64)) & 1) != 0 || (first & MatcherAlphabet::isPattern) != 0;
+    }
+
+    std::vector<Traits> traits_;
+    MatcherAlphabet alphabet_;
+    std::vector<std::uint64_t> pairs_;  // hashed pairs of codes with which walks begin
+    DoubleArray array_;
+};
+
+}  // namespace vellark

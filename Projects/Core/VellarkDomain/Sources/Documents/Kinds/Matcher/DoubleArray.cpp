@@ -1,0 +1,163 @@
+#include <VellarkDomain/Documents/Kinds/Matcher/DoubleArray.hpp>
+
+#include <algorithm>
+
+// Building walks the sorted keys range by range, so that no trie of nodes stands in between: the keys below a state are
+// one range, and those below its children are the runs of equal codes at the next depth. Places are found by first fit
+// over a list of free cells. States with many children are few and are mostly near the roots, which are placed first;
+// the many states with one child take whatever cell is free.
+
+namespace vellark {
+
+namespace {
+
+constexpr std::uint32_t noCell = 0xFFFF'FFFF;
+
+// Free cells that are tried for a state with several children before it goes behind all that is taken.
+constexpr int mostTries = 64;
+
+}  // namespace
+
+class DoubleArrayBuilder {
+public:
+    using Key = DoubleArray::Key;
+    using State = DoubleArray::State;
+    using Code = DoubleArray::Code;
+
+    explicit DoubleArrayBuilder(DoubleArray& array) : array_(array) {}
+
+    void build(std::span<const std::span<const Key>> tries) {
+        std::size_t codes = 0;
+        for (const auto& keys : tries) {
+            for (const Key& key : keys) {
+                codes += key.codes.size();
+                highestCode_ = std::max(highestCode_, std::ranges::max(key.codes));
+            }
+        }
+        grow(tries.size() + 2 + codes / 2 + highestCode_);
+        take(DoubleArray::none, DoubleArray::none);
+        for (const auto& keys : tries) {
+            const State root = freeCell(1);
+            take(root, noCell - 1);
+            array_.roots_.push_back(root);
+            pending_.push_back({root, 0, keys});
+        }
+        // Breadth first: what stands near a root is placed while there is room to choose from.
+        for (std::size_t next = 0; next < pending_.size(); ++next) {
+            expand(Pending(pending_[next]));
+        }
+        finish();
+    }
+
+private:
+    struct Pending {
+        State state;
+        std::size_t depth;
+        std::span<const Key> keys;  // all that begin with the state's codes
+    };
+
+    void expand(Pending pending) {
+        auto keys = pending.keys;
+        if (!keys.empty() && keys.front().codes.size() == pending.depth) {
+            array_.cells_[pending.state].base |= DoubleArray::endsKey;
+            array_.values_[pending.state] = keys.front().value;
+            keys = keys.subspan(1);
+        }
+        if (keys.empty()) return;
+        codes_.clear();
+        const auto codeOf = [&](const Key& key) { return key.codes[pending.depth]; };
+        for (const Key& key : keys) {
+            if (codes_.empty() || codes_.back() != codeOf(key)) codes_.push_back(codeOf(key));
+        }
+        const std::uint32_t base = findBase();
+        array_.cells_[pending.state].base |= base;
+        for (const Code code : codes_) {
+            const auto run = std::ranges::find_if(keys, [&](const Key& key) { return codeOf(key) != code; });
+            const auto count = static_cast<std::size_t>(run - keys.begin());
+            take(base + code, pending.state);
+            pending_.push_back({base + code, pending.depth + 1, keys.first(count)});
+            keys = keys.subspan(count);
+        }
+    }
+
+    // The least base, among those tried, where all of `codes_` fall on free cells.
+    std::uint32_t findBase() {
+        std::uint32_t cell = freeCell(codes_.front());
+        for (int tried = 0; cell != noCell && (tried < mostTries || codes_.size() == 1); ++tried) {
+            const std::uint32_t base = cell - codes_.front();
+            ensure(base + codes_.back() + 1);
+            if (std::ranges::all_of(codes_, [&](Code code) { return isFree(base + code); })) return base;
+            cell = next_[cell];
+        }
+        const std::uint32_t base = std::max(lastTaken_ + 1, codes_.front()) - codes_.front();
+        ensure(base + codes_.back() + 1);
+        return base;
+    }
+
+    // The first free cell that is not before the given one.
+    std::uint32_t freeCell(std::uint32_t least) {
+        std::uint32_t cell = first_;
+        while (cell != noCell && cell < least) {
+            cell = next_[cell];
+        }
+        if (cell != noCell) return cell;
+        const auto end = static_cast<std::uint32_t>(array_.cells_.size());
+        ensure(std::max(end, least) + 1);
+        return std::max(end, least);
+    }
+
+    [[nodiscard]] bool isFree(std::uint32_t cell) const { return array_.cells_[cell].owner == noCell; }
+
+    void take(std::uint32_t cell, State owner) {
+        array_.cells_[cell].owner = owner;
+        lastTaken_ = std::max(lastTaken_, cell);
+        const std::uint32_t before = previous_[cell];
+        const std::uint32_t after = next_[cell];
+        (before == noCell ? first_ : next_[before]) = after;
+        (after == noCell ? last_ : previous_[after]) = before;
+    }
+
+    void ensure(std::size_t size) {
+        if (size > array_.cells_.size()) grow(size);
+    }
+
+    // Adds free cells, in ascending order at the end of the list.
+    void grow(std::size_t size) {
+        auto cell = static_cast<std::uint32_t>(array_.cells_.size());
+        array_.cells_.resize(size);
+        array_.values_.resize(size);
+        next_.resize(size, noCell);
+        previous_.resize(size, noCell);
+        for (; cell < size; ++cell) {
+            previous_[cell] = last_;
+            (last_ == noCell ? first_ : next_[last_]) = cell;
+            last_ = cell;
+        }
+    }
+
+    // A step from any state by any code must land inside the array.
+    void finish() {
+        std::uint32_t highestBase = 0;
+        for (const auto& cell : array_.cells_) {
+            highestBase = std::max(highestBase, cell.base & ~DoubleArray::endsKey);
+        }
+        array_.cells_.resize(std::max<std::size_t>(array_.cells_.size(), highestBase + highestCode_ + 1));
+        array_.values_.resize(array_.cells_.size());
+    }
+
+    DoubleArray& array_;
+    std::vector<Pending> pending_;
+    std::vector<Code> codes_;
+    std::vector<std::uint32_t> next_;
+    std::vector<std::uint32_t> previous_;
+    std::uint32_t first_ = noCell;
+    std::uint32_t last_ = noCell;
+    std::uint32_t lastTaken_ = 0;
+    Code highestCode_ = 0;
+};
+
+DoubleArray::DoubleArray(std::span<const std::span<const Key>> tries) {
+    DoubleArrayBuilder(*this).build(tries);
+}
+
+}  // namespace vellark
