@@ -39,6 +39,7 @@ class Workplace:
 
     def __init__(self, directory, programs):
         self.directory = directory
+        self.programs = programs
         self.data = directory / "data"
         self.spool = self.data / "signals"
         self.home = directory / "home"
@@ -71,7 +72,10 @@ class Workplace:
 
     def runs(self, name, payload, count):
         """Wall time in seconds and peak memory in bytes of each of some runs, which all meet the same spool."""
-        ended = subprocess.run([self.timer, str(count), payload, self.spool, *self.command(name)],
+        return self.timed_runs(self.command(name), payload, count)
+
+    def timed_runs(self, command, payload, count):
+        ended = subprocess.run([self.timer, str(count), payload, self.spool, *command],
                                env=self.environment, check=True, capture_output=True, text=True)
         lines = [line.split() for line in ended.stdout.splitlines()]
         return [(int(wall) * 1e-9, int(peak)) for wall, peak in lines]
@@ -112,11 +116,24 @@ def memory(workplace):
     }
 
 
+def library_memory(workplace):
+    """Peak memory of reading a library, and the size of its file, both in bytes."""
+    program, path = workplace.programs / "LibraryBenchmark", workplace.directory / "library.json"
+    if not program.exists():
+        return {}
+    subprocess.run([program, "--make", path], check=True)
+    size = path.stat().st_size
+    peaks = [peak for _, peak in workplace.timed_runs([program, "--read", path], os.devnull, 5)]
+    path.unlink()
+    return {"peak": peaks, "file": [size]}
+
+
 SUBJECTS = {
     "helper-small": timed("small.json", 0, {"helper": 80, "floor": 80, "python": 8}),
     "helper-small-full": timed("small.json", MAXIMUM_PENDING - 1, {"helper": 80, "floor": 80, "python": 8}),
     "helper-large": timed("large.json", 0, {"helper": 20, "floor": 40, "python": 5}),
     "helper-memory": memory,
+    "library-memory": library_memory,
 }
 
 

@@ -5,20 +5,18 @@
 #include <VellarkDomain/Capture/PythonPath.hpp>
 #include <VellarkDomain/Capture/PythonText.hpp>
 #include <VellarkFoundation/Digest/SHA256.hpp>
+#include <VellarkFoundation/Files/AtomicFile.hpp>
 #include <VellarkFoundation/Files/BoundedFile.hpp>
-#include <VellarkFoundation/Files/FileDescriptor.hpp>
 #include <VellarkFoundation/Files/HomeDirectory.hpp>
 #include <VellarkFoundation/Identifiers/UUID.hpp>
 #include <VellarkFoundation/Text/UTF8.hpp>
 #include <VellarkFoundation/Time/TimeText.hpp>
 
-#include <fcntl.h>
 #include <sys/stat.h>
 
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <cstdio>
 #include <cstdlib>
 #include <memory>
 
@@ -156,14 +154,6 @@ bool prepareSpool(const std::string& directory) {
     return ::lstat(directory.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
 }
 
-bool writeWhole(const std::string& path, std::string_view bytes) {
-    const FileDescriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600));
-    if (!file.isOpen()) return false;
-    if (::write(file.get(), bytes.data(), bytes.size()) == static_cast<ssize_t>(bytes.size())) return true;
-    ::unlink(path.c_str());
-    return false;
-}
-
 }  // namespace
 
 std::optional<JSONObject> SignalSpool::json(std::string_view name, std::span<const JSONSelection> keys) const {
@@ -285,14 +275,11 @@ std::optional<std::string> SignalSpool::write(std::string_view bytes, std::strin
 
     const auto identifier = UUID::random();
     if (!identifier) return std::nullopt;
-    const std::string temporary = directory + "/" + std::string(temporaryName);
-    if (!writeWhole(temporary, bytes)) return std::nullopt;
+    auto file = AtomicFile::create(directory + "/" + std::string(temporaryName), 0600);
+    if (!file || !file->write(bytes)) return std::nullopt;
     std::string final =
         directory + "/" + TimeText::secondsWithMicroseconds(TimeText::now()) + "-" + *identifier + ".json";
-    if (std::rename(temporary.c_str(), final.c_str()) != 0) {
-        ::unlink(temporary.c_str());
-        return std::nullopt;
-    }
+    if (!file->moveTo(final)) return std::nullopt;
     return final;
 }
 

@@ -66,6 +66,20 @@ constexpr bool isPlain(std::uint64_t word) {
     return offset;
 }
 
+/// True when a text of ASCII alone is its own JSON string, between quotes.
+[[nodiscard]] inline bool isPlainASCII(std::string_view text) {
+    std::size_t offset = 0;
+    for (; offset + 8 <= text.size(); offset += 8) {
+        std::uint64_t word;
+        std::memcpy(&word, text.data() + offset, sizeof word);
+        if (!detail::isPlain(word) || (word & detail::repeated(0x80)) != 0) return false;
+    }
+    for (; offset < text.size(); ++offset) {
+        if (needsEscape(text[offset]) || static_cast<unsigned char>(text[offset]) >= 0x80) return false;
+    }
+    return true;
+}
+
 /// The offset of the quote that closes the string whose content begins at `offset`. Nothing when the content is not
 /// what RFC 8259 allows (raw control characters, unknown escapes, half surrogate pairs) or does not end.
 [[nodiscard]] std::optional<std::size_t> closingQuote(std::string_view text, std::size_t offset);

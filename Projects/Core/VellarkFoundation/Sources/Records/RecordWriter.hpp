@@ -169,6 +169,16 @@ bool encodeValue(EncodingContext& context, const std::map<std::string, Value, Co
     return true;
 }
 
+/// Hands the JSON text of a record over in pieces, the last one with a call of its own. After an error some pieces may
+/// have been handed over.
+template <class Record>
+[[nodiscard]] Result<void, EncodingError> writeRecord(const Record& record, CompactJSONWriter::Sink sink) {
+    EncodingContext context{.json = CompactJSONWriter(std::move(sink)), .failedPath = {}};
+    if (!encodeValue(context, record)) return failure(EncodingError{.path = context.failedPath.value_or("")});
+    context.json.flush();
+    return {};
+}
+
 /// The JSON text of a record.
 template <class Record>
 [[nodiscard]] Result<std::string, EncodingError> writeRecord(const Record& record) {

@@ -1,0 +1,116 @@
+#include "Documents/Library/LibraryTexts.hpp"
+#include "Support/TemporaryDirectory.hpp"
+#include <VellarkDomain/Documents/Library/LibraryFile.hpp>
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+
+#include <cerrno>
+#include <csignal>
+
+namespace vellark {
+namespace {
+
+using namespace vellark::testing;
+namespace fs = std::filesystem;
+using Reason = LibraryFileError::Reason;
+
+CaptureLibrary sample(std::size_t count) {
+    CaptureLibrary library;
+    for (std::size_t index = 0; index < count; ++index) {
+        library.documents.push_back({.id = std::to_string(index), .title = "제목 \"x\"", .kind = "markdown"});
+        library.documents.back().revisions.push_back({.id = "r", .contentHash = std::string(64, 'a')});
+    }
+    return library;
+}
+
+std::size_t filesIn(const TemporaryDirectory& folder) {
+    return static_cast<std::size_t>(std::distance(fs::directory_iterator(folder.path()), {}));
+}
+
+TEST(LibraryFile, roundTripLeavesOneFile) {
+    const TemporaryDirectory folder;
+    const std::string path = folder / "library.json";
+    const auto first = LibraryFile::write(sample(3), path);
+    ASSERT_TRUE(first.has_value());
+    EXPECT_EQ(fs::status(path).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+    fs::permissions(path, static_cast<fs::perms>(0666));
+    const auto second = LibraryFile::write(sample(5000), path);  // more than one piece
+    ASSERT_TRUE(second.has_value());
+    EXPECT_NE(*first, *second);
+    EXPECT_EQ(fs::status(path).permissions(), static_cast<fs::perms>(0666));
+    const auto read = LibraryFile::read(path);
+    ASSERT_TRUE(read.has_value());
+    EXPECT_EQ(read->library, sample(5000));
+    EXPECT_EQ(read->stamp, *second);
+    EXPECT_EQ(filesIn(folder), 1U);
+}
+
+TEST(LibraryFile, aDamagedFileIsNamedAndKept) {
+    const TemporaryDirectory folder;
+    const std::string path = folder / "library.json";
+    struct Row {
+        const char* name;
+        std::string text;
+        DecodingError damage;
+    };
+    const Row rows[] = {
+        {"empty", "", {DecodingError::Reason::notJSON}},
+        {"cut", R"({"version":1,"documents":[)", {DecodingError::Reason::notJSON, "", 26}},
+        {"storage kind",
+         libraryText(recordText(objectText(revisionRows(), 30, "\"x\""))),
+         {DecodingError::Reason::unknownText, "documents[0].revisions[0].storageKind"}},
+    };
+    for (const Row& row : rows) {
+        writeFile(path, row.text);
+        const LibraryFileError expected{.reason = Reason::damaged, .damage = row.damage};
+        EXPECT_EQ(LibraryFile::read(path).error(), expected) << row.name;
+        EXPECT_EQ(LibraryFile::write(sample(1), path).error(), expected) << row.name;
+        EXPECT_EQ(LibraryFile::write(sample(1), path, LibraryFile::Stamp{}).error(), expected) << row.name;
+        EXPECT_EQ(readFile(path), row.text) << row.name;
+    }
+    EXPECT_EQ(filesIn(folder), 1U);
+}
+
+TEST(LibraryFile, theSystemsRefusals) {
+    const TemporaryDirectory folder;
+    EXPECT_EQ(LibraryFile::read(folder / "none.json").error().reason, Reason::notFound);
+    EXPECT_EQ(LibraryFile::read(folder.string()).error().reason, Reason::unreadable);
+    EXPECT_EQ(LibraryFile::write(sample(1), folder / "no/library.json").error(),
+              (LibraryFileError{.reason = Reason::unwritable, .systemError = ENOENT}));
+    EXPECT_FALSE(LibraryFile::write(sample(1), folder.string()).has_value());
+    EXPECT_EQ(filesIn(folder), 0U);
+}
+
+TEST(LibraryFile, aFullDiskLeavesTheOldFile) {
+    const TemporaryDirectory folder;
+    const std::string path = folder / "library.json";
+    const auto stamp = LibraryFile::write(sample(2), path);
+    ASSERT_TRUE(stamp.has_value());
+    const std::string before = readFile(path);
+
+    rlimit whole{};
+    ::getrlimit(RLIMIT_FSIZE, &whole);
+    const rlimit small{.rlim_cur = 100'000, .rlim_max = whole.rlim_max};
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    ::setrlimit(RLIMIT_FSIZE, &small);
+    const auto written = LibraryFile::write(sample(20'000), path, *stamp);
+    ::setrlimit(RLIMIT_FSIZE, &whole);
+    std::signal(SIGXFSZ, handler);
+
+    EXPECT_EQ(written.error(), (LibraryFileError{.reason = Reason::unwritable, .systemError = EFBIG}));
+    EXPECT_EQ(readFile(path), before);
+    EXPECT_EQ(filesIn(folder), 1U);
+}
+
+TEST(LibraryFile, aLinkStaysALink) {
+    const TemporaryDirectory folder;
+    writeFile(folder / "real/library.json", R"({"version":1,"documents":[]})");
+    fs::create_symlink(folder / "real/library.json", folder / "library.json");
+    ASSERT_TRUE(LibraryFile::write(sample(1), folder / "library.json").has_value());
+    EXPECT_TRUE(fs::is_symlink(folder / "library.json"));
+    EXPECT_EQ(LibraryFile::read(folder / "real/library.json")->library, sample(1));
+}
+
+}  // namespace
+}  // namespace vellark
