@@ -11,12 +11,14 @@ A row of Goals.json names a subject, our figure and the peer's in it, and what i
 
 Where no bound is set, the ratio is shown for information.
 
-A subject is a Google Benchmark program below (its figures are the names of its benchmarks) or one of processes.py.
+A subject is a Google Benchmark program below (its figures are the names of its benchmarks) or one of processes.py. Some
+programs have a peer in Python beside them, whose figures join theirs.
 """
 
 import argparse
 import json
 import os
+import shutil
 import statistics
 import subprocess
 import sys
@@ -27,6 +29,10 @@ import processes
 
 HERE = Path(__file__).resolve().parent
 REPETITIONS = 7
+
+# Subject to the script in Peers and its arguments. It prints an object of figures' names and lists of seconds.
+PAGES = HERE.parent / "Projects/Core/VellarkDomain/Tests/Data/HTML"
+PYTHON_PEERS = {"html": ["html_parser.py", PAGES], "timestamp": ["fromisoformat.py"]}
 
 
 def program_subjects(programs):
@@ -46,6 +52,19 @@ def program_figures(program, directory):
         if run["run_type"] == "iteration" and not run.get("error_occurred"):
             figures.setdefault(run["run_name"], []).append(run["cpu_time"] * units[run["time_unit"]])
     return figures
+
+
+def peer_figures(subject):
+    """The figures of the subject's peer in Python; none, and a note, where there is no python3 that can run it."""
+    if subject not in PYTHON_PEERS:
+        return {}
+    script, *arguments = PYTHON_PEERS[subject]
+    python = shutil.which("python3")
+    ended = python and subprocess.run([python, HERE / "Peers" / script, *arguments], stdout=subprocess.PIPE)
+    if not ended or ended.returncode != 0:
+        print(f"note: {script} was not measured, python3 is missing or cannot run it", file=sys.stderr)
+        return {}
+    return json.loads(ended.stdout)
 
 
 def shown(figure, kind):
@@ -123,7 +142,7 @@ def main():
         for subject in chosen:
             print(f"measuring {subject}", file=sys.stderr)
             if subject in in_process:
-                figures[subject] = program_figures(in_process[subject], workplace.directory)
+                figures[subject] = program_figures(in_process[subject], workplace.directory) | peer_figures(subject)
             else:
                 figures[subject] = processes.SUBJECTS[subject](workplace)
     warn_when_busy()

@@ -76,11 +76,10 @@ std::vector<PythonPath> PythonPath::parents() const {
     return result;
 }
 
-std::string_view PythonPath::suffix() const {
-    std::string_view stem = name();
-    stem.remove_prefix(std::min(stem.find_first_not_of('.'), stem.size()));
-    const std::size_t point = stem.rfind('.');
-    return point == std::string_view::npos ? std::string_view() : stem.substr(point);
+std::string_view PythonPath::suffix(std::string_view name) {
+    name.remove_prefix(std::min(name.find_first_not_of('.'), name.size()));
+    const std::size_t point = name.rfind('.');
+    return point == std::string_view::npos ? std::string_view() : name.substr(point);
 }
 
 PythonPath PythonPath::appending(std::string_view text) const {

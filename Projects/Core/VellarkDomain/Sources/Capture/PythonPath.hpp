@@ -45,7 +45,10 @@ public:
 
     /// The name from its last "." on, its leading points not counting; "" when there is no such point. A point at the
     /// end counts: "a." gives ".".
-    [[nodiscard]] std::string_view suffix() const;
+    [[nodiscard]] std::string_view suffix() const { return suffix(name()); }
+
+    /// The same of a name that stands alone.
+    [[nodiscard]] static std::string_view suffix(std::string_view name);
 
     /// The path of the text when that has a root; otherwise this path with the text's components added.
     [[nodiscard]] PythonPath appending(std::string_view text) const;

@@ -22,6 +22,17 @@ std::string_view stripTrailing(std::string_view text) {
     return text;
 }
 
+// Whether a piece is empty or begins with a point, as few do. The loop works on bytes alone and has no way out, so that
+// compilers make it one over many bytes at a time.
+bool mayHoldPoints(std::string_view path) {
+    unsigned char found = 0;
+    for (std::size_t offset = 1; offset < path.size(); ++offset) {
+        const char byte = path[offset];
+        found = static_cast<unsigned char>(found | ((path[offset - 1] == '/') & ((byte == '/') | (byte == '.'))));
+    }
+    return found != 0;
+}
+
 }  // namespace
 
 std::string_view stripLeading(std::string_view text) {
@@ -113,6 +124,7 @@ std::vector<std::string_view> components(std::string_view text, char32_t separat
 bool isNormalAbsolute(std::string_view path) {
     if (!path.starts_with('/')) return false;
     if (path.size() == 1) return true;
+    if (path.back() != '/' && !mayHoldPoints(path)) return true;
     for (std::size_t start = 1; start <= path.size();) {
         const std::size_t end = std::min(path.find('/', start), path.size());
         const std::string_view piece = path.substr(start, end - start);

@@ -12,21 +12,26 @@
 //   - C0, C1 and F5 to FF stand nowhere.
 //
 // Together these are the table of well-formed sequences of the Unicode Standard. A stride without a byte from F0 on is
-// spared what concerns sequences of four, and ASCII behind ASCII is spared everything. What is shorter than a stride,
-// and the sequence that the last stride's end may cut, goes to the plain decoder.
+// spared what concerns sequences of four, and ASCII is spared everything when the three bytes before it are ASCII too.
+// What is shorter than a stride, and the sequence that the last stride's end may cut, goes to the plain decoder.
 
 namespace vellark::UTF8 {
 
 namespace {
 
-using Block = std::int8_t __attribute__((vector_size(16)));
+using Block = std::uint8_t __attribute__((vector_size(16)));
+using SignedBlock = std::int8_t __attribute__((vector_size(16)));
 constexpr std::size_t blockBytes = sizeof(Block);
 constexpr std::size_t strideBytes = 4 * blockBytes;
 constexpr std::size_t longestLookBack = 3;
 
-// Bytes become signed numbers in the order of their unsigned values: SSE2 compares no others, and only by ">".
+// SSE2 compares signed numbers only, by ">". Flipping the high bit puts signed numbers into the order of the bytes.
 constexpr std::int8_t ordered(unsigned byte) {
     return static_cast<std::int8_t>(static_cast<int>(byte) - 128);
+}
+
+SignedBlock inOrder(Block block) {
+    return reinterpret_cast<SignedBlock>(block ^ std::uint8_t{0x80});
 }
 
 Block load(const char* bytes) {
@@ -35,8 +40,8 @@ Block load(const char* bytes) {
     return block;
 }
 
-Block inOrder(Block block) {
-    return block ^ ordered(0);
+Block largest(Block first, Block second) {
+    return first > second ? first : second;
 }
 
 bool isAnySet(Block block) {
@@ -55,24 +60,26 @@ bool isASCII(Block block) {
 // the nineteen bytes may be F0 or above.
 template <bool hasFour>
 Block errors(const char* bytes) {
-    const Block raw = load(bytes);
-    const Block current = inOrder(raw);
-    const Block first = inOrder(load(bytes - 1));
-    const Block second = inOrder(load(bytes - 2));
+    const Block current = load(bytes);
+    const auto signedCurrent = reinterpret_cast<SignedBlock>(current);
+    const Block first = load(bytes - 1);
 
-    const Block isContinuation = raw < std::int8_t{-0x40};
-    const Block isAbove9F = current > ordered(0x9F);
-    Block isExpected = (first > ordered(0xBF)) | (second > ordered(0xDF));
-    Block isWrong = (~isAbove9F & (first == ordered(0xE0))) | (isAbove9F & (first == ordered(0xED))) |
-                    ((current & std::int8_t{~1}) == ordered(0xC0));
+    // As signed numbers, 80 to BF are the lowest. The comparisons that split them may say anything of other bytes:
+    // behind a lead byte those are wrong already.
+    const SignedBlock isContinuation = signedCurrent < std::int8_t{-0x40};
+    const auto isAbove9F = reinterpret_cast<Block>(signedCurrent > std::int8_t{-0x61});
+    SignedBlock isExpected = (inOrder(first) > ordered(0xBF)) | (inOrder(load(bytes - 2)) > ordered(0xDF));
+    // E0 before 80 to 9F, or ED before A0 to BF; then C0 and C1.
+    SignedBlock isWrong = ((first ^ (isAbove9F & std::uint8_t{0xE0 ^ 0xED})) == std::uint8_t{0xE0}) |
+                          ((current & std::uint8_t{0xFE}) == std::uint8_t{0xC0});
     if constexpr (hasFour) {
-        const Block third = inOrder(load(bytes - 3));
-        const Block isAbove8F = current > ordered(0x8F);
-        isExpected |= third > ordered(0xEF);
-        isWrong |= (~isAbove8F & (first == ordered(0xF0))) | (isAbove8F & (first == ordered(0xF4))) |
-                   (current > ordered(0xF4));
+        // F0 before 80 to 8F, or F4 before 90 to BF; then F5 and above.
+        const auto isAbove8F = reinterpret_cast<Block>(signedCurrent > std::int8_t{-0x71});
+        isExpected |= inOrder(load(bytes - 3)) > ordered(0xEF);
+        isWrong |= ((first ^ (isAbove8F & std::uint8_t{0xF0 ^ 0xF4})) == std::uint8_t{0xF0}) |
+                   (inOrder(current) > ordered(0xF4));
     }
-    return isWrong | (isContinuation ^ isExpected);
+    return reinterpret_cast<Block>(isWrong | (isContinuation ^ isExpected));
 }
 
 template <bool hasFour>
@@ -81,14 +88,6 @@ bool isStrideValid(const char* bytes) {
     for (std::size_t offset = 0; offset < strideBytes; offset += blockBytes)
         all |= errors<hasFour>(bytes + offset);
     return !isAnySet(all);
-}
-
-// Whether a byte of the stride at `bytes`, or of the three bytes in front of it, is F0 or above.
-bool reachesFour(const char* bytes) {
-    Block found = inOrder(load(bytes - longestLookBack)) > ordered(0xEF);
-    for (std::size_t offset = 0; offset < strideBytes; offset += blockBytes)
-        found |= inOrder(load(bytes + offset)) > ordered(0xEF);
-    return isAnySet(found);
 }
 
 // Bytes from `offset` on that are whole well-formed sequences, until `end` is reached or one is ill-formed.
@@ -117,17 +116,16 @@ bool isValid(std::string_view text) {
     std::size_t offset = skipSequences(text, 0, longestLookBack);
     if (offset < longestLookBack) return offset == text.size();
 
-    bool followsASCII = false;
     const std::size_t start = offset;
     for (; text.size() - offset >= strideBytes; offset += strideBytes) {
         const char* bytes = text.data() + offset;
-        const bool isPlain = isASCII(load(bytes) | load(bytes + blockBytes) | load(bytes + 2 * blockBytes) |
-                                     load(bytes + 3 * blockBytes));
-        if (!(isPlain && followsASCII)) {
-            const bool isRight = reachesFour(bytes) ? isStrideValid<true>(bytes) : isStrideValid<false>(bytes);
-            if (!isRight) return false;
-        }
-        followsASCII = isPlain;
+        Block top = load(bytes - longestLookBack);
+        for (std::size_t block = 0; block < strideBytes; block += blockBytes)
+            top = largest(top, load(bytes + block));
+        // ASCII right up to here, three bytes back included.
+        if (isASCII(top)) continue;
+        const bool hasFour = isAnySet(reinterpret_cast<Block>(top >= std::uint8_t{0xF0}));
+        if (!(hasFour ? isStrideValid<true>(bytes) : isStrideValid<false>(bytes))) return false;
     }
     if (offset > start) offset = startOfLastSequence(text, offset);
     return skipSequences(text, offset, text.size()) == text.size();

@@ -1,3 +1,4 @@
+#include <VellarkDomain/Capture/FixedTextMap.hpp>
 #include <VellarkDomain/Capture/Preferences/ArtifactCategory.hpp>
 #include <VellarkFoundation/Unicode/UnicodeCase.hpp>
 
@@ -58,10 +59,20 @@ constexpr std::array<Facts, caseTable<ArtifactCategory>.size()> facts = {{
     {"기타 파일", "doc", false, {}},
 }};
 
-// Where an extension is looked for, in this order. Plans share the documents' extensions and are never found by one.
-constexpr auto searched =
-    std::to_array<ArtifactCategory>({ArtifactCategory::documents, ArtifactCategory::images, ArtifactCategory::videos,
-                                     ArtifactCategory::pdfs, ArtifactCategory::code});
+// By extension, of those categories that an extension makes. Plans share the documents' extensions; none makes a plan.
+constexpr FixedTextMap categories([] {
+    using enum ArtifactCategory;
+    std::array<FixedTextEntry<ArtifactCategory>, documentExtensions.size() + imageExtensions.size() +
+                                                     videoExtensions.size() + pdfExtensions.size() +
+                                                     codeExtensions.size()>
+        all;
+    auto entry = all.begin();
+    for (const ArtifactCategory category : {documents, images, videos, pdfs, code}) {
+        for (const std::string_view extension : facts[static_cast<std::size_t>(category)].fileExtensions)
+            *entry++ = {extension, category};
+    }
+    return all;
+}());
 
 struct OfficeExtension {
     std::string_view extension;
@@ -116,9 +127,8 @@ bool isHTMLExtension(std::string_view text) {
 }
 
 ArtifactCategory category(std::string_view forExtension) {
-    const auto has = [&](ArtifactCategory one) { return isIn(fileExtensions(one), forExtension); };
-    const auto found = std::ranges::find_if(searched, has);
-    return found == searched.end() ? ArtifactCategory::other : *found;
+    const ArtifactCategory* const found = categories.find(forExtension);
+    return found == nullptr ? ArtifactCategory::other : *found;
 }
 
 std::optional<ArtifactCategory> safeTextCategory(std::string_view forExtension) {

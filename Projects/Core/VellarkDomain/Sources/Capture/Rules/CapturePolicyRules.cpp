@@ -3,6 +3,7 @@
 #include <VellarkDomain/Capture/PythonText.hpp>
 #include <VellarkDomain/Capture/Rules/CaptureEventTimes.hpp>
 #include <VellarkDomain/Capture/Rules/CapturePolicyRules.hpp>
+#include <VellarkDomain/Capture/Rules/CaptureThreshold.hpp>
 #include <VellarkFoundation/Text/UTF8.hpp>
 #include <VellarkFoundation/Unicode/UnicodeCase.hpp>
 
@@ -35,27 +36,9 @@ std::string lower(std::string_view text) {
     return result;
 }
 
-// The latest of the moments from which a file counts.
-class Threshold {
-public:
-    void add(std::optional<double> moment) {
-        if (moment && (!latest_ || *latest_ < *moment)) latest_ = moment;
-    }
-
-    template <class Key>
-    void add(const std::map<Key, double>& moments, const Key& key) {
-        if (const auto entry = moments.find(key); entry != moments.end()) add(entry->second);
-    }
-
-    bool isReached(std::optional<double> moment) const { return !latest_ || !moment || *latest_ <= *moment; }
-
-private:
-    std::optional<double> latest_;
-};
-
 // False for an extension that does not count; otherwise its moment joins the threshold.
 bool extensionAllowed(ArtifactCategory category, std::string_view extension, const ResolvedCapturePolicy& policy,
-                      Threshold& threshold) {
+                      CaptureThreshold& threshold) {
     if (extension.empty()) {
         threshold.add(policy.extensionlessResumeSince);
         return policy.includeExtensionless;
@@ -88,11 +71,9 @@ std::optional<std::string> normalizedExtension(std::string_view text) {
 }
 
 bool artifactAllowed(ArtifactCategory category, const ArtifactFacts& facts, const ResolvedCapturePolicy& policy) {
-    if (!policy.enabled) return false;
-    const auto type = policy.types.find(category);
-    if (type == policy.types.end() || !type->second) return false;
+    if (!policy.enabled || !isOn(policy.types, category)) return false;
 
-    Threshold threshold;
+    CaptureThreshold threshold;
     threshold.add(policy.resumeSince);
     threshold.add(policy.typeResumeSince, category);
     if (facts.extension && !extensionAllowed(category, *facts.extension, policy, threshold)) return false;

@@ -3,10 +3,11 @@
 #include <VellarkFoundation/Text/Whitespace.hpp>
 
 #include <algorithm>
+#include <array>
 
-// Only a line with a bar, a backtick or a tilde can change the context, and inside a fence only one with the fence's
-// own marker. Such lines are searched for, and the lines between them passed over together: of those only the last one
-// counts, as the line before the next. Each search runs once over a page, so the cost is linear in its bytes.
+// A page is walked line by line. Hardly any line gets a second look: one that does not begin like a fence and holds no
+// bar changes nothing but the line before the next, and the bars are found by one search that runs ahead of the lines.
+// The walk keeps views into the page; texts are copied once, at its end.
 
 namespace vellark {
 
@@ -29,7 +30,8 @@ std::string_view trimmed(std::string_view text, IsInSet isInSet) {
         text.remove_prefix(first.byteCount);
     }
     while (!text.empty()) {
-        const std::size_t last = UTF8::previousOffset(text, text.size());
+        const bool isASCII = static_cast<unsigned char>(text.back()) < 0x80;
+        const std::size_t last = isASCII ? text.size() - 1 : UTF8::previousOffset(text, text.size());
         if (!isInSet(UTF8::decode(text, last).scalar)) break;
         text.remove_suffix(text.size() - last);
     }
@@ -38,7 +40,18 @@ std::string_view trimmed(std::string_view text, IsInSet isInSet) {
 
 // How often the character stands at the start of the text.
 std::size_t runLength(std::string_view text, char character) {
-    return std::min(text.find_first_not_of(character), text.size());
+    std::size_t length = 0;
+    while (length < text.size() && text[length] == character)
+        ++length;
+    return length;
+}
+
+// False only for lines that are no fence: a look at the first bytes, which spares most lines the rest.
+bool mayBeFence(std::string_view line) {
+    std::size_t spaces = 0;
+    while (spaces < line.size() && line[spaces] == ' ' && spaces <= mostLeadingSpaces)
+        ++spaces;
+    return line.size() - spaces >= smallestRun && (line[spaces] == '`' || line[spaces] == '~');
 }
 
 // A line that begins like a fence: the run of markers behind few enough blanks.
@@ -59,21 +72,27 @@ std::optional<FenceRun> fenceRun(std::string_view line) {
     return FenceRun{marker, length, line.substr(length)};
 }
 
-std::optional<MarkdownContext::Fence> openedFence(std::string_view line) {
-    if (line.size() > MarkdownContext::maximumLineBytes) return std::nullopt;
+struct OpenFence {
+    char marker;
+    std::size_t length;
+    std::string_view opening;
+};
+
+std::optional<OpenFence> openedFence(std::string_view line) {
     const auto run = fenceRun(line);
-    if (!run || (run->marker == '`' && run->rest.find('`') != npos)) return std::nullopt;
-    return MarkdownContext::Fence{run->marker, run->length, std::string(line)};
+    if (!run || line.size() > MarkdownContext::maximumLineBytes) return std::nullopt;
+    if (run->marker == '`' && run->rest.find('`') != npos) return std::nullopt;
+    return OpenFence{run->marker, run->length, line};
 }
 
-bool closes(const MarkdownContext::Fence& fence, std::string_view line) {
+bool closes(const OpenFence& fence, std::string_view line) {
     const auto run = fenceRun(line);
     return run && run->marker == fence.marker && run->length >= fence.length &&
            trimmed(run->rest, isBlankOrNewline).empty();
 }
 
 bool isSeparatorCell(std::string_view cell) {
-    cell = Whitespace::trimmed(cell);
+    cell = trimmed(cell, Whitespace::isWhitespace);
     while (cell.starts_with(':'))
         cell.remove_prefix(1);
     while (cell.ends_with(':'))
@@ -81,96 +100,75 @@ bool isSeparatorCell(std::string_view cell) {
     return cell.size() >= 3 && cell.find_first_not_of('-') == npos;
 }
 
-// Finds the places of one byte, in order. Remembers the last place, so that asking again costs nothing.
-class Finder {
-public:
-    Finder(std::string_view text, char byte) : text_(text), byte_(byte) {}
+// Whether an ASCII byte may stand in a separator.
+constexpr auto separatorBytes = [] {
+    std::array<bool, 128> table{};
+    for (const char character : std::string_view("|-: \t\n\v\f\r"))
+        table[static_cast<std::size_t>(character)] = true;
+    return table;
+}();
 
-    // The first place at or behind `offset`, which must not fall from call to call; the text's length without one.
-    std::size_t at(std::size_t offset) {
-        if (!place_ || *place_ < offset) place_ = std::min(text_.find(byte_, offset), text_.size());
-        return *place_;
-    }
-
-private:
-    std::string_view text_;
-    char byte_;
-    std::optional<std::size_t> place_;
-};
+// False only for lines that are no separators: most rows of a table show it in their first letter.
+bool mayBeSeparator(std::string_view line) {
+    return std::ranges::all_of(line, [](char character) {
+        const auto byte = static_cast<unsigned char>(character);
+        return byte >= 0x80 || separatorBytes[byte];
+    });
+}
 
 // One pass over the whole lines of a page.
 class LineWalk {
 public:
-    LineWalk(MarkdownContext& context, std::string_view lines)
-        : context_(context), lines_(lines), previous_(context.previousLine) {}
+    LineWalk(const MarkdownContext& context, std::string_view lines) : lines_(lines), previous_(context.previousLine) {
+        if (context.fence) fence_ = {context.fence->marker, context.fence->length, context.fence->opening};
+        if (context.table) table_ = {context.table->header, context.table->separator};
+    }
 
-    void run() {
-        while (offset_ < lines_.size()) {
-            const std::size_t start = startOfLine(nextCandidate());
-            if (start > offset_) passOver(start);
-            if (offset_ < lines_.size()) takeLine();
+    MarkdownContext run() {
+        for (std::size_t offset = 0; offset < lines_.size();) {
+            const std::string_view line = lines_.substr(offset, lines_.find('\n', offset) - offset);
+            takeLine(line, offset);
+            previous_ = line;
+            offset += line.size() + 1;
         }
-        if (previous_.data() != context_.previousLine.data()) context_.previousLine = previous_;
+        MarkdownContext context{.previousLine = std::string(previous_)};
+        if (fence_) context.fence = {fence_->marker, fence_->length, std::string(fence_->opening)};
+        if (table_) context.table = {std::string(table_->header), std::string(table_->separator)};
+        return context;
     }
 
 private:
-    // The next byte that may make its line count; the end without one.
-    std::size_t nextCandidate() {
-        if (context_.fence) return (context_.fence->marker == '`' ? backticks_ : tildes_).at(offset_);
-        return std::min({bars_.at(offset_), backticks_.at(offset_), tildes_.at(offset_)});
-    }
+    struct OpenTable {
+        std::string_view header;
+        std::string_view separator;
+    };
 
-    std::size_t startOfLine(std::size_t place) const {
-        if (place == lines_.size()) return place;
-        const std::size_t end = lines_.substr(offset_, place - offset_).rfind('\n');
-        return end == npos ? offset_ : offset_ + end + 1;
-    }
-
-    // The line that begins at `offset` without its line feed.
-    std::string_view lineAt(std::size_t offset) const {
-        return lines_.substr(offset, lines_.find('\n', offset) - offset);
-    }
-
-    // Passes over lines of which none counts, up to `end`, where a line begins or the text ends.
-    void passOver(std::size_t end) {
-        std::string_view passed = lines_.substr(offset_, end - offset_);
-        if (passed.ends_with('\n')) passed.remove_suffix(1);
-        previous_ = passed.substr(passed.rfind('\n') + 1);
-        context_.table.reset();  // for none of them has a bar; inside a fence there is no table anyway
-        offset_ = end;
-    }
-
-    void takeLine() {
-        const std::string_view line = lineAt(offset_);
-        if (context_.fence) {
-            if (closes(*context_.fence, line)) context_.fence.reset();
-        } else if (auto fence = openedFence(line)) {
-            context_.fence = std::move(fence);
-            context_.table.reset();
-        } else {
-            takeTableLine(line);
-        }
-        previous_ = line;
-        offset_ = std::min(offset_ + line.size() + 1, lines_.size());
-    }
-
-    void takeTableLine(std::string_view line) {
-        if (bars_.at(offset_) >= offset_ + line.size()) {
-            context_.table.reset();
-        } else if (MarkdownContext::isSeparator(line) && previous_.find('|') != npos) {
+    void takeLine(std::string_view line, std::size_t offset) {
+        const bool isMarked = mayBeFence(line);
+        if (fence_) {
+            if (isMarked && closes(*fence_, line)) fence_.reset();
+        } else if (const auto fence = isMarked ? openedFence(line) : std::nullopt) {
+            fence_ = fence;
+            table_.reset();
+        } else if (!hasBar(line, offset)) {
+            table_.reset();
+        } else if (mayBeSeparator(line) && MarkdownContext::isSeparator(line) && previous_.find('|') != npos) {
+            table_.reset();
             const bool isShort = std::max(line.size(), previous_.size()) <= MarkdownContext::maximumLineBytes;
-            context_.table.reset();
-            if (isShort) context_.table = {std::string(previous_), std::string(line)};
+            if (isShort) table_ = {previous_, line};
         }
     }
 
-    MarkdownContext& context_;
+    bool hasBar(std::string_view line, std::size_t offset) {
+        if (!nextBar_ || *nextBar_ < offset) nextBar_ = std::min(lines_.find('|', offset), lines_.size());
+        return *nextBar_ < offset + line.size();
+    }
+
     std::string_view lines_;
     std::string_view previous_;
-    std::size_t offset_ = 0;
-    Finder bars_{lines_, '|'};
-    Finder backticks_{lines_, '`'};
-    Finder tildes_{lines_, '~'};
+    std::optional<OpenFence> fence_;
+    std::optional<OpenTable> table_;
+    std::optional<std::size_t> nextBar_;
 };
 
 }  // namespace
@@ -198,7 +196,7 @@ void MarkdownContext::consume(std::string_view text, bool continuesLine, bool sp
         text.remove_prefix(end + 1);
     }
     if (splitsLine) text = text.substr(0, text.rfind('\n') + 1);
-    LineWalk(*this, text).run();
+    *this = LineWalk(*this, text).run();
 }
 
 bool MarkdownContext::isSeparator(std::string_view line) {

@@ -9,6 +9,9 @@
 
 namespace vellark {
 
+struct DocumentRecord;
+struct DocumentRevision;
+
 /// What a document's text is written in, and so how it is shown and read.
 ///
 ///     DocumentContentFormat::code("swift")      source text, coloured as Swift
@@ -31,6 +34,16 @@ struct DocumentContentFormat {
     };
 
     std::variant<Code, Markdown, HTML> value;
+
+    /// The format of a document, judged by its kind, its category and its name: that of its source path, else that of
+    /// the revision's snapshot, else its title. Without a revision, give a null pointer.
+    ///
+    ///     kind "markdown", "notes.swift"      markdown
+    ///     kind "text", "notes.swift"          code "swift"
+    ///     kind "text", "Dockerfile.dev"       code "dockerfile"
+    ///     kind "text", "LICENSE"              code of no language
+    [[nodiscard]] static DocumentContentFormat resolve(const DocumentRecord& document,
+                                                       const DocumentRevision* revision);
 
     [[nodiscard]] static DocumentContentFormat code(std::optional<std::string> language) {
         return {Code{std::move(language)}};
