@@ -7,6 +7,7 @@ A row of Goals.json names a subject, our figure and the peer's in it, and what i
     fasterThanPeer  the peer's time is at least `bound` times ours
     perSecond       our routine runs at least `bound` times in a second; there is no peer
     bytes           our figure is at most `bound` bytes; there is no peer
+    timesBytes      our figure is at most `bound` times the peer's, both in bytes
 
 Where no bound is set, the ratio is shown for information.
 
@@ -67,7 +68,7 @@ def peer_figures(subject):
 
 
 def shown(figure, kind):
-    if kind == "bytes":
+    if kind in ("bytes", "timesBytes"):
         return f"{figure / 1024:,.0f} KiB"
     for unit, seconds in (("ms", 1e-3), ("us", 1e-6)):
         if figure >= seconds:
@@ -89,12 +90,14 @@ def row(goal, figures):
         met = 1 / ours >= bound
         return head + [shown(ours, kind), "", "", "", f">= {bound:,} a second", "met" if met else "NOT MET"], met
     peer = statistics.median(figures[peer_name])
-    ratio = ours / peer if kind == "timesPeer" else peer / ours
+    ratio = peer / ours if kind == "fasterThanPeer" else ours / peer
     head += [shown(ours, kind), peer_name, shown(peer, kind), f"{ratio:.2f}"]
     if bound is None:
         return head + ["", "no goal"], None
     if kind == "timesPeer":
         met, wanted = ratio <= bound, f"<= {bound} x its time"
+    elif kind == "timesBytes":
+        met, wanted = ratio <= bound, f"<= {bound} x its size"
     else:
         met, wanted = ratio >= bound, f">= {bound} x its speed"
     return head + [wanted, "met" if met else "NOT MET"], met
