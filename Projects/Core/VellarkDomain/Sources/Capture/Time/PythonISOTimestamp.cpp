@@ -23,6 +23,8 @@ constexpr int ordinalOf1970 = 719'163;
 constexpr int noDay = 0;
 constexpr int lastDay = 3'652'059;  // 9999-12-31
 
+constexpr std::array<int, 6> powersOf10 = {1, 10, 100, 1'000, 10'000, 100'000};
+
 constexpr bool isDigit(char byte) {
     return byte >= '0' && byte <= '9';
 }
@@ -71,9 +73,12 @@ constexpr bool isInMonth(int year, int month, int day) {
     return day <= monthLengths[static_cast<std::size_t>(month)] + (hasLeapDay ? 1 : 0);
 }
 
-// The ordinal of a day; `noDay` when no calendar has it.
+constexpr bool isCalendarDay(int year, int month, int day) {
+    return year >= 1 && month >= 1 && month <= 12 && isInMonth(year, month, day);
+}
+
+// The ordinal of a day that the calendar has.
 constexpr int ordinal(int year, int month, int day) {
-    if (year < 1 || month < 1 || month > 12 || !isInMonth(year, month, day)) return noDay;
     return daysBeforeYear(month <= 2 ? year : year + 1) + daysToMonth[static_cast<std::size_t>(month)] + day;
 }
 
@@ -106,7 +111,7 @@ int calendarDate(std::string_view date, int year) {
     if (extended && date[7] != '-') return noDay;
     const int month = digits(date, extended ? 5 : 4, 2);
     const int day = digits(date, extended ? 8 : 6, 2);
-    return ordinal(year, month, day);
+    return isCalendarDay(year, month, day) ? ordinal(year, month, day) : noDay;
 }
 
 int isoWeekDate(std::string_view date, int year) {
@@ -166,11 +171,13 @@ struct ClockReader {
     bool readFraction(int& microsecond) {
         if (!skip('.') && !skip(',')) return true;
         if (!startsWithDigit()) return false;
-        int scale = 100'000;
+        std::size_t missing = 6;
         for (; startsWithDigit(); rest.remove_prefix(1)) {
-            microsecond += (rest.front() - '0') * scale;
-            scale /= 10;
+            if (missing == 0) continue;
+            microsecond = microsecond * 10 + (rest.front() - '0');
+            --missing;
         }
+        microsecond *= powersOf10[missing];
         return true;
     }
 
@@ -188,7 +195,8 @@ struct ClockReader {
 // its value, any other is 0.
 class DigitWord {
 public:
-    // What each of the eight characters must be: '0' for any digit, '?' for any ASCII character, else itself.
+    // What each of the eight characters must be: a digit that is at most the one given, any ASCII character for '?', or
+    // else the character itself.
     struct Pattern {
         std::uint64_t expected = 0;
         std::uint64_t overflow = 0;  // added to what differs from `expected`, reaches 0x10 in a byte that does not fit
@@ -198,11 +206,17 @@ public:
         consteval explicit Pattern(std::string_view form) {
             for (std::size_t index = 0; index < 8; ++index) {
                 const std::uint64_t at = 8 * index;
-                const bool isAny = form[index] == '?';
-                expected |= (isAny ? 0 : static_cast<std::uint64_t>(form[index])) << at;
-                overflow |= (isAny ? 0 : form[index] == '0' ? 0x06ULL : 0x0FULL) << at;
-                kept |= (form[index] == '0' ? 0xFFULL : 0) << at;
-                open |= (isAny ? 0x7FULL : 0) << at;
+                const auto highest = static_cast<unsigned char>(form[index]);
+                if (isDigit(form[index])) {
+                    expected |= 0x30ULL << at;
+                    overflow |= (0x3FULL - highest) << at;
+                    kept |= 0xFFULL << at;
+                } else if (highest == '?') {
+                    open |= 0x7FULL << at;
+                } else {
+                    expected |= static_cast<std::uint64_t>(highest) << at;
+                    overflow |= 0x0FULL << at;
+                }
             }
         }
     };
@@ -294,22 +308,24 @@ std::int64_t utcMicroseconds(int day, const Clock& time, std::int64_t offset) {
 bool readCommonForm(std::string_view text, std::int64_t& value) {
     constexpr std::size_t length = 19;
     if (std::endian::native != std::endian::little || text.size() <= length) return false;
-    static constexpr DigitWord::Pattern datePattern("0000-00-");
-    static constexpr DigitWord::Pattern middlePattern("00?00:00");
-    static constexpr DigitWord::Pattern endPattern("0:00:00?");
+    static constexpr DigitWord::Pattern datePattern("9999-19-");
+    static constexpr DigitWord::Pattern middlePattern("39?29:59");
+    static constexpr DigitWord::Pattern endPattern("9:59:59?");
     const DigitWord date(text.data(), datePattern);
     const DigitWord middle(text.data() + 8, middlePattern);
     const DigitWord end(text.data() + 12, endPattern);
     if ((date.misfit() | middle.misfit() | end.misfit()) != 0) return false;
 
+    const int year = date.pair(0) * 100 + date.pair(2);
+    const int month = date.pair(5);
+    const int day = middle.pair(0);
     Clock time{middle.pair(3), middle.pair(6), end.pair(5), 0};
-    const int day = ordinal(date.pair(0) * 100 + date.pair(2), date.pair(5), middle.pair(0));
-    if (((23 - time.hour) | (59 - time.minute) | (59 - time.second)) < 0 || day == noDay) return false;
+    if (time.hour > 23 || !isCalendarDay(year, month, day)) return false;
 
     const std::string_view rest = text.substr(length);
     std::int64_t offset = 0;
     if (!isUTC(rest) && !readFractionAndOffset(rest, time.microsecond, offset)) return false;
-    value = utcMicroseconds(day, time, offset);
+    value = utcMicroseconds(ordinal(year, month, day), time, offset);
     return true;
 }
 
