@@ -18,7 +18,6 @@ programs have a peer in Python beside them, whose figures join theirs.
 import argparse
 import json
 import os
-import shutil
 import statistics
 import subprocess
 import sys
@@ -55,14 +54,15 @@ def program_figures(program, directory):
 
 
 def peer_figures(subject):
-    """The figures of the subject's peer in Python; none, and a note, where there is no python3 that can run it."""
+    """The figures of the subject's peer in Python; none, and a note, where that cannot run."""
     if subject not in PYTHON_PEERS:
         return {}
     script, *arguments = PYTHON_PEERS[subject]
-    python = shutil.which("python3")
-    ended = python and subprocess.run([python, HERE / "Peers" / script, *arguments], stdout=subprocess.PIPE)
-    if not ended or ended.returncode != 0:
-        print(f"note: {script} was not measured, python3 is missing or cannot run it", file=sys.stderr)
+    try:
+        ended = subprocess.run([processes.interpreter(), HERE / "Peers" / script, *arguments],
+                               stdout=subprocess.PIPE, check=True)
+    except (OSError, subprocess.CalledProcessError) as error:
+        print(f"note: {script} was not measured: {error}", file=sys.stderr)
         return {}
     return json.loads(ended.stdout)
 
