@@ -34,8 +34,8 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::report,
      .nouns = "rapport, rapports, bilan, bilans, reporting, synthèse, synthèses, note de synthèse, tableau de bord, "
-              "tableaux de bord, état d'avancement, point d'avancement, analyse, analyses, diagnostic, évaluation, "
-              "évaluations, livre blanc, compte rendu d'activité, compte rendu de mission",
+              "tableaux de bord, état d'avancement, point d'avancement, analyse, diagnostic, évaluation, "
+              "évaluations, livre blanc, compte rendu d'activité, compte rendu de mission, rapport d'activité",
      .weak = "suivi, suivis"},
     {.kind = DocumentKind::research,
      .nouns = "étude, études, recherche, recherches, enquête, enquêtes, sondage, sondages, analyse concurrentielle, "
