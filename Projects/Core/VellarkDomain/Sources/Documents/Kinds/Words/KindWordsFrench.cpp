@@ -34,8 +34,8 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::report,
      .nouns = "rapport, rapports, bilan, bilans, reporting, synthèse, synthèses, note de synthèse, tableau de bord, "
-              "tableaux de bord, état d'avancement, point d'avancement, analyse, analyses, diagnostic, évaluation, "
-              "évaluations, livre blanc, compte rendu d'activité, compte rendu de mission",
+              "tableaux de bord, état d'avancement, point d'avancement, analyse, diagnostic, évaluation, "
+              "évaluations, livre blanc, compte rendu d'activité, compte rendu de mission, rapport d'activité",
      .weak = "suivi, suivis"},
     {.kind = DocumentKind::research,
      .nouns = "étude, études, recherche, recherches, enquête, enquêtes, sondage, sondages, analyse concurrentielle, "
@@ -49,7 +49,7 @@ constexpr Layered words[] = {
     {.kind = DocumentKind::checklist,
      .nouns = "liste de contrôle, liste de vérification, liste de tâches, liste des tâches, listes de tâches, "
               "liste de courses, liste de choses à faire, choses à faire, à faire, checklist, checklists, "
-              "check-list, points à vérifier",
+              "check-list, points à vérifier, tâches à faire",
      .weak = "tâches, liste, listes"},
     {.kind = DocumentKind::proposal,
      .nouns = "proposition, propositions, recommandation, recommandations, préconisations, demande de subvention, "
@@ -134,7 +134,7 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::newsletter,
      .nouns = "newsletter, newsletters, lettre d'information, lettres d'information, infolettre, bulletin, "
-              "bulletins, journal interne",
+              "journal interne, bulletin municipal",
      .weak = ""},
     {.kind = DocumentKind::socialPost,
      .nouns = "publication linkedin, publications linkedin, publication instagram, publication facebook, "
@@ -190,11 +190,11 @@ constexpr Layered words[] = {
     {.kind = DocumentKind::essay,
      .nouns = "essai, essais, tribune, tribunes, éditorial, éditoriaux, édito, chronique, chroniques, "
               "critique de film, critique littéraire, commentaire de texte, billet d'humeur, rédaction, réflexion, "
-              "réflexions, point de vue",
+              "réflexions, point de vue, dissertation de philosophie",
      .weak = ""},
     {.kind = DocumentKind::story,
      .nouns = "roman, romans, conte, contes, nouvelle littéraire, recueil de nouvelles, histoire courte, "
-              "histoire pour enfants, poème, poèmes, poésie, récit, récits, fable, paroles de chanson",
+              "histoire pour enfants, poème, poèmes, récit, récits, fable, paroles de chanson",
      .weak = ""},
     {.kind = DocumentKind::translation,
      .nouns = "traduction, traductions, version française, version anglaise, version bilingue, texte traduit",
@@ -205,7 +205,7 @@ constexpr Layered words[] = {
               "séquence pédagogique, fiche pédagogique, fiche de préparation, leçon, leçons, manuel scolaire",
      .weak = ""},
     {.kind = DocumentKind::lectureNotes,
-     .nouns = "notes de cours, prise de notes, notes de conférence, notes de séminaire, polycopié, cours magistral",
+     .nouns = "notes de cours, prise de notes, notes de conférence, notes de séminaire, polycopié",
      .weak = ""},
     {.kind = DocumentKind::studyNotes,
      .nouns = "fiche de révision, fiches de révision, révisions, fiche de synthèse, fiches de synthèse, "

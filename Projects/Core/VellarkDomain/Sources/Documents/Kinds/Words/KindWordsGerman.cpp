@@ -12,7 +12,8 @@ constexpr Layered words[] = {
     {.kind = DocumentKind::prd, .nouns = "konzept, konzepte, produktanforderungen, projektskizze", .weak = ""},
     {.kind = DocumentKind::spec,
      .nouns = "spezifikation, spezifikationen, pflichtenheft, lastenheft, anforderungen, anforderungskatalog, "
-              "anforderungsanalyse, leistungsbeschreibung, funktionsbeschreibung, fachkonzept, leistungsverzeichnis",
+              "anforderungsanalyse, leistungsbeschreibung, funktionsbeschreibung, fachkonzept, leistungsverzeichnis, "
+              "datenblatt",
      .weak = ""},
     {.kind = DocumentKind::plan,
      .nouns = "plan, pläne, zeitplan, terminplan, projektplan, aktionsplan, maßnahmenplan, wochenplan, dienstplan, "
@@ -28,7 +29,7 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::report,
      .nouns = "bericht, berichte, report, analyse, analysen, auswertung, auswertungen, gutachten, sachstand, "
-              "versuchsprotokoll, versuchsprotokolle",
+              "versuchsprotokoll",
      .weak = ""},
     {.kind = DocumentKind::research,
      .nouns = "recherche, marktforschung, marktanalyse, wettbewerbsanalyse, umfrage, umfragen, studie, studien, "
@@ -91,7 +92,7 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::designSystem,
      .nouns = "designsystem, design system, styleguide, gestaltungsrichtlinie, gestaltungsrichtlinien, "
-              "designrichtlinien, markenhandbuch",
+              "designrichtlinien, markenhandbuch, stilrichtlinien",
      .weak = ""},
     {.kind = DocumentKind::marketingCopy,
      .nouns = "werbetext, werbetexte, anzeigentext, slogan, produktbeschreibung, produkttext, broschüre, broschüren, "
@@ -174,7 +175,7 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::studyNotes,
      .nouns = "lernzettel, lernzusammenfassung, lernnotizen, karteikarten, prüfungsvorbereitung, "
-              "klausurvorbereitung, vokabelliste, vokabeln, formelsammlung, spickzettel",
+              "klausurvorbereitung, vokabelliste, vokabeln, formelsammlung",
      .weak = ""},
     {.kind = DocumentKind::readingNotes,
      .nouns = "lesenotizen, buchzusammenfassung, lesetagebuch, buchnotizen, exzerpt, inhaltsangabe, buchvorstellung",
