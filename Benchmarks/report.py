@@ -6,6 +6,7 @@ A row of Goals.json names a subject, our figure and the peer's in it, and what i
     timesPeer       our time is at most `bound` times the peer's
     fasterThanPeer  the peer's time is at least `bound` times ours
     perSecond       our routine runs at least `bound` times in a second; there is no peer
+    bytesPerSecond  our routine takes at least `bound` bytes in a second; there is no peer
     bytes           our figure is at most `bound` bytes; there is no peer
     timesBytes      our figure is at most `bound` times the peer's, both in bytes
 
@@ -29,9 +30,16 @@ import processes
 HERE = Path(__file__).resolve().parent
 REPETITIONS = 7
 
+# Behind the name of a benchmark: its figure in bytes per second.
+BYTES = "#bytesPerSecond"
+
 # Subject to the script in Peers and its arguments. It prints an object of figures' names and lists of seconds.
 PAGES = HERE.parent / "Projects/Core/VellarkDomain/Tests/Data/HTML"
-PYTHON_PEERS = {"html": ["html_parser.py", PAGES], "timestamp": ["fromisoformat.py"]}
+PYTHON_PEERS = {
+    "html": ["html_parser.py", PAGES],
+    "richtext": ["pygments_lexing.py", HERE / "Samples"],
+    "timestamp": ["fromisoformat.py"],
+}
 
 
 def program_subjects(programs):
@@ -50,6 +58,8 @@ def program_figures(program, directory):
     for run in json.loads(ended.stdout)["benchmarks"]:
         if run["run_type"] == "iteration" and not run.get("error_occurred"):
             figures.setdefault(run["run_name"], []).append(run["cpu_time"] * units[run["time_unit"]])
+            if "bytes_per_second" in run:
+                figures.setdefault(run["run_name"] + BYTES, []).append(run["bytes_per_second"])
     return figures
 
 
@@ -89,6 +99,10 @@ def row(goal, figures):
     if kind == "perSecond":
         met = 1 / ours >= bound
         return head + [shown(ours, kind), "", "", "", f">= {bound:,} a second", "met" if met else "NOT MET"], met
+    if kind == "bytesPerSecond":
+        speed = statistics.median(figures[goal["ours"] + BYTES])
+        met = speed >= bound
+        return head + [f"{speed / 1e6:,.0f} MB/s", "", "", "", f">= {bound / 1e6:,.0f} MB/s", "met" if met else "NOT MET"], met
     peer = statistics.median(figures[peer_name])
     ratio = peer / ours if kind == "fasterThanPeer" else ours / peer
     head += [shown(ours, kind), peer_name, shown(peer, kind), f"{ratio:.2f}"]
