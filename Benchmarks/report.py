@@ -29,6 +29,9 @@ import processes
 HERE = Path(__file__).resolve().parent
 REPETITIONS = 7
 
+# Subject to peer, a script that takes the folder of data and prints lists of seconds by name, as JSON.
+PYTHON_PEERS = {"kinds": "pyahocorasick.py"}
+
 # Subject to the script in Peers and its arguments. It prints an object of figures' names and lists of seconds.
 PAGES = HERE.parent / "Projects/Core/VellarkDomain/Tests/Data/HTML"
 PYTHON_PEERS = {"html": ["html_parser.py", PAGES], "timestamp": ["fromisoformat.py"]}
@@ -64,6 +67,18 @@ def peer_figures(subject):
         print(f"note: {script} was not measured, python3 is missing or cannot run it", file=sys.stderr)
         return {}
     return json.loads(ended.stdout)
+
+
+def python_figures(script, directory):
+    """The peer's figures, by the first interpreter that has the peer; nothing, with a note, where none has."""
+    for interpreter in dict.fromkeys((sys.executable, shutil.which("python3", path=os.defpath))):
+        if interpreter is None:
+            continue
+        ended = subprocess.run([interpreter, HERE / "Peers" / script, directory], stdout=subprocess.PIPE)
+        if ended.returncode == 0:
+            return json.loads(ended.stdout)
+    print(f"note: the peer {script} is missing or failed", file=sys.stderr)
+    return {}
 
 
 def shown(figure, kind):
@@ -146,6 +161,9 @@ def main():
 
     results = [row(goal, figures[goal["subject"]]) for goal in goals if goal["subject"] in figures]
     print_table([cells for cells, _ in results])
+    if "kinds" in figures:
+        print("\naccuracy of kinds", flush=True)
+        subprocess.run([in_process["kinds"], "--accuracy"], check=True)
     if options.json:
         options.json.write_text(json.dumps(figures, indent=2))
     return 1 if any(met is False for _, met in results) else 0
