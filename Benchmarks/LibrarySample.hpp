@@ -58,10 +58,9 @@ private:
         revision.snapshotPath = "snapshots/" + revision.contentHash.substr(0, 16) + ".md";
         revision.capturedAt = timestamp();
         revision.originEvent = oneOf(events);
-        revision.source = record.source;
         revision.byteSize = static_cast<std::int64_t>(below(90'000));
-        if (oneIn(2)) revision.storageKind = DocumentStorageKind::snapshot;
-        if (oneIn(6)) {
+        if (oneIn(4)) revision.storageKind = DocumentStorageKind::snapshot;
+        if (oneIn(16)) {
             revision.provenance = DocumentRevisionProvenance{.certainty = "recorded",
                                                              .agent = record.source,
                                                              .session = identifier(),
@@ -85,7 +84,7 @@ private:
         record.createdAt = timestamp();
         record.updatedAt = timestamp();
         record.artifactCategory = "documents";
-        for (std::size_t count = oneIn(10) ? 2 : 1; count > 0; --count) {
+        for (std::size_t count = oneIn(20) ? 2 : 1; count > 0; --count) {
             record.revisions.push_back(revision(record));
         }
         return record;

@@ -7,6 +7,7 @@ A row of Goals.json names a subject, our figure and the peer's in it, and what i
     fasterThanPeer  the peer's time is at least `bound` times ours
     perSecond       our routine runs at least `bound` times in a second; there is no peer
     bytes           our figure is at most `bound` bytes; there is no peer
+    timesBytes      our figure is at most `bound` times the peer's, both in bytes
 
 Where no bound is set, the ratio is shown for information.
 
@@ -17,7 +18,6 @@ programs have a peer in Python beside them, whose figures join theirs.
 import argparse
 import json
 import os
-import shutil
 import statistics
 import subprocess
 import sys
@@ -57,14 +57,15 @@ def program_figures(program, directory):
 
 
 def peer_figures(subject):
-    """The figures of the subject's peer in Python; none, and a note, where there is no python3 that can run it."""
+    """The figures of the subject's peer in Python; none, and a note, where that cannot run."""
     if subject not in PYTHON_PEERS:
         return {}
     script, *arguments = PYTHON_PEERS[subject]
-    python = shutil.which("python3")
-    ended = python and subprocess.run([python, HERE / "Peers" / script, *arguments], stdout=subprocess.PIPE)
-    if not ended or ended.returncode != 0:
-        print(f"note: {script} was not measured, python3 is missing or cannot run it", file=sys.stderr)
+    try:
+        ended = subprocess.run([processes.interpreter(), HERE / "Peers" / script, *arguments],
+                               stdout=subprocess.PIPE, check=True)
+    except (OSError, subprocess.CalledProcessError) as error:
+        print(f"note: {script} was not measured: {error}", file=sys.stderr)
         return {}
     return json.loads(ended.stdout)
 
@@ -82,7 +83,7 @@ def python_figures(script, directory):
 
 
 def shown(figure, kind):
-    if kind == "bytes":
+    if kind in ("bytes", "timesBytes"):
         return f"{figure / 1024:,.0f} KiB"
     for unit, seconds in (("ms", 1e-3), ("us", 1e-6)):
         if figure >= seconds:
@@ -104,12 +105,14 @@ def row(goal, figures):
         met = 1 / ours >= bound
         return head + [shown(ours, kind), "", "", "", f">= {bound:,} a second", "met" if met else "NOT MET"], met
     peer = statistics.median(figures[peer_name])
-    ratio = ours / peer if kind == "timesPeer" else peer / ours
+    ratio = peer / ours if kind == "fasterThanPeer" else ours / peer
     head += [shown(ours, kind), peer_name, shown(peer, kind), f"{ratio:.2f}"]
     if bound is None:
         return head + ["", "no goal"], None
     if kind == "timesPeer":
         met, wanted = ratio <= bound, f"<= {bound} x its time"
+    elif kind == "timesBytes":
+        met, wanted = ratio <= bound, f"<= {bound} x its size"
     else:
         met, wanted = ratio >= bound, f">= {bound} x its speed"
     return head + [wanted, "met" if met else "NOT MET"], met

@@ -1,4 +1,5 @@
 #include "FuzzTarget.hpp"
+#include <VellarkDomain/Capture/Preferences/ResolvedCapturePolicy.hpp>
 #include <VellarkDomain/Capture/PythonPath.hpp>
 #include <VellarkDomain/Capture/Rules/CaptureArtifactTables.hpp>
 #include <VellarkDomain/Capture/Rules/CaptureRules.hpp>

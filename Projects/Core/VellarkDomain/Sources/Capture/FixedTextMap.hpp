@@ -9,18 +9,18 @@
 
 namespace vellark {
 
-/// A table from a few short texts to values, hashed when the program is compiled. A look-up reads the text once and
-/// then compares it with the one entry that it may be.
-///
-///     constexpr FixedTextMap sides(std::to_array<FixedTextEntry<int>>({{"left", 1}, {"right", 2}}));
-///     sides.find("left")     1
-///     sides.find("Left")     nullptr
 template <class Value>
 struct FixedTextEntry {
     std::string_view text;
     Value value;
 };
 
+/// A table from a few short texts to values, at most 254 of them, hashed when the program is compiled. A look-up reads
+/// the text once and then compares it with the one entry that it may be.
+///
+///     constexpr FixedTextMap sides(std::to_array<FixedTextEntry<int>>({{"left", 1}, {"right", 2}}));
+///     sides.find("left")     1
+///     sides.find("Left")     nullptr
 template <class Value, std::size_t count>
 class FixedTextMap {
 public:

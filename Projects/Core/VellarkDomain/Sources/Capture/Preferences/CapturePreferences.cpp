@@ -70,8 +70,8 @@ std::vector<std::string> CapturePreferences::normalizedExtensions(const std::vec
         if (auto extension = normalizedExtension(text)) normalized.push_back(*std::move(extension));
     }
     std::ranges::sort(normalized);
-    const auto repeated = std::ranges::unique(normalized);
-    normalized.erase(repeated.begin(), repeated.end());
+    // Clang before 16 cannot compile what std::ranges::unique gives with GCC's library.
+    normalized.erase(std::unique(normalized.begin(), normalized.end()), normalized.end());
     return normalized;
 }
 

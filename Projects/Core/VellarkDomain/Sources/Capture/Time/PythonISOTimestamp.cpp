@@ -23,6 +23,8 @@ constexpr int ordinalOf1970 = 719'163;
 constexpr int noDay = 0;
 constexpr int lastDay = 3'652'059;  // 9999-12-31
 
+constexpr std::array<int, 6> powersOf10 = {1, 10, 100, 1'000, 10'000, 100'000};
+
 constexpr bool isDigit(char byte) {
     return byte >= '0' && byte <= '9';
 }
@@ -38,7 +40,7 @@ constexpr int digits(std::string_view text, std::size_t offset, std::size_t coun
     return valid ? value : -1;
 }
 
-// Moments come in no order that a processor could foresee, so the calendar is table look-ups with few branches, and a
+// Moments come in no order that a processor could foresee, so the calendar is arithmetic with few branches, and a
 // missing value is a value of its own until the end.
 
 // A year that 25 divides is a leap year when 16 divides it, any other when 4 does.
@@ -47,24 +49,37 @@ constexpr bool isLeapYear(int year) {
     return (year & rest) == 0;
 }
 
-// Days of the year before each month, and at last of the whole year; the first row is that of common years.
-constexpr std::array<std::array<int, 14>, 2> daysBefore = {{
-    {0, 0, 31, 59, 90, 120, 151, 181, 212, 243, 273, 304, 334, 365},
-    {0, 0, 31, 60, 91, 121, 152, 182, 213, 244, 274, 305, 335, 366},
-}};
-
 constexpr int daysBeforeYear(int year) {
-    const int past = year - 1;
-    return past * 365 + past / 4 - past / 100 + past / 400;
+    const auto past = static_cast<unsigned>(year - 1);
+    const unsigned centuries = past / 100;
+    return static_cast<int>(past * 365 + past / 4 - centuries + centuries / 4);
 }
 
-// The ordinal of a day; `noDay` when no calendar has it.
+// Days of each month, the leap day left out.
+constexpr std::array<int, 13> monthLengths = {0, 31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+
+// Days from the start of the year to the month for January and February, from its end back for the others: so the leap
+// day never lies between.
+constexpr std::array<int, 13> daysToMonth = [] {
+    std::array<int, 13> days{};
+    for (std::size_t month = 2; month <= 12; ++month)
+        days[month] = days[month - 1] + monthLengths[month - 1] - (month == 3 ? 365 : 0);
+    return days;
+}();
+
+constexpr bool isInMonth(int year, int month, int day) {
+    if (day <= 28) return day >= 1;
+    const bool hasLeapDay = month == 2 && isLeapYear(year);
+    return day <= monthLengths[static_cast<std::size_t>(month)] + (hasLeapDay ? 1 : 0);
+}
+
+constexpr bool isCalendarDay(int year, int month, int day) {
+    return year >= 1 && month >= 1 && month <= 12 && isInMonth(year, month, day);
+}
+
+// The ordinal of a day that the calendar has.
 constexpr int ordinal(int year, int month, int day) {
-    if (year < 1 || month < 1 || month > 12 || day < 1) return noDay;
-    const auto& before = daysBefore[isLeapYear(year) ? 1 : 0];
-    const auto index = static_cast<std::size_t>(month);
-    if (day > before[index + 1] - before[index]) return noDay;
-    return daysBeforeYear(year) + before[index] + day;
+    return daysBeforeYear(month <= 2 ? year : year + 1) + daysToMonth[static_cast<std::size_t>(month)] + day;
 }
 
 // Monday of the year's first week, which is the one that holds January 4. Day 1 was a Monday.
@@ -96,7 +111,7 @@ int calendarDate(std::string_view date, int year) {
     if (extended && date[7] != '-') return noDay;
     const int month = digits(date, extended ? 5 : 4, 2);
     const int day = digits(date, extended ? 8 : 6, 2);
-    return ordinal(year, month, day);
+    return isCalendarDay(year, month, day) ? ordinal(year, month, day) : noDay;
 }
 
 int isoWeekDate(std::string_view date, int year) {
@@ -156,11 +171,13 @@ struct ClockReader {
     bool readFraction(int& microsecond) {
         if (!skip('.') && !skip(',')) return true;
         if (!startsWithDigit()) return false;
-        int scale = 100'000;
+        std::size_t missing = 6;
         for (; startsWithDigit(); rest.remove_prefix(1)) {
-            microsecond += (rest.front() - '0') * scale;
-            scale /= 10;
+            if (missing == 0) continue;
+            microsecond = microsecond * 10 + (rest.front() - '0');
+            --missing;
         }
+        microsecond *= powersOf10[missing];
         return true;
     }
 
@@ -178,7 +195,8 @@ struct ClockReader {
 // its value, any other is 0.
 class DigitWord {
 public:
-    // What each of the eight characters must be: '0' for any digit, '?' for any ASCII character, else itself.
+    // What each of the eight characters must be: a digit that is at most the one given, any ASCII character for '?', or
+    // else the character itself.
     struct Pattern {
         std::uint64_t expected = 0;
         std::uint64_t overflow = 0;  // added to what differs from `expected`, reaches 0x10 in a byte that does not fit
@@ -188,31 +206,39 @@ public:
         consteval explicit Pattern(std::string_view form) {
             for (std::size_t index = 0; index < 8; ++index) {
                 const std::uint64_t at = 8 * index;
-                const bool isAny = form[index] == '?';
-                expected |= (isAny ? 0 : static_cast<std::uint64_t>(form[index])) << at;
-                overflow |= (isAny ? 0 : form[index] == '0' ? 0x06ULL : 0x0FULL) << at;
-                kept |= (form[index] == '0' ? 0xFFULL : 0) << at;
-                open |= (isAny ? 0x7FULL : 0) << at;
+                const auto highest = static_cast<unsigned char>(form[index]);
+                if (isDigit(form[index])) {
+                    expected |= 0x30ULL << at;
+                    overflow |= (0x3FULL - highest) << at;
+                    kept |= 0xFFULL << at;
+                } else if (highest == '?') {
+                    open |= 0x7FULL << at;
+                } else {
+                    expected |= static_cast<std::uint64_t>(highest) << at;
+                    overflow |= 0x0FULL << at;
+                }
             }
         }
     };
 
-    // False when the characters do not fit the pattern.
-    bool read(const char* characters, const Pattern& pattern) {
+    DigitWord(const char* characters, const Pattern& pattern) {
         std::uint64_t word = 0;
         std::memcpy(&word, characters, sizeof word);
         const std::uint64_t difference = (word ^ pattern.expected) & ~pattern.open;
         constexpr std::uint64_t highNibbles = 0xF0F0F0F0F0F0F0F0;
-        if (((difference | (difference + pattern.overflow)) & highNibbles) != 0) return false;
+        misfit_ = (difference | (difference + pattern.overflow)) & highNibbles;
         const std::uint64_t values = difference & pattern.kept;
         pairs_ = values * 10 + (values >> 8);
-        return true;
     }
+
+    // Not 0 when the characters do not fit the pattern.
+    [[nodiscard]] std::uint64_t misfit() const { return misfit_; }
 
     // The number that the digits at the index and behind it make.
     [[nodiscard]] int pair(int index) const { return static_cast<int>((pairs_ >> (8 * index)) & 0xFF); }
 
 private:
+    std::uint64_t misfit_ = 0;
     std::uint64_t pairs_ = 0;
 };
 
@@ -221,28 +247,6 @@ struct Moment {
     Clock time;
     std::string_view offset;
 };
-
-// Reads the common form; false when the text is not of it.
-bool readCommonForm(std::string_view text, Moment& moment) {
-    constexpr std::size_t length = 19;
-    if (std::endian::native != std::endian::little || text.size() <= length) return false;
-    static constexpr DigitWord::Pattern datePattern("0000-00-");
-    static constexpr DigitWord::Pattern middlePattern("00?00:00");
-    static constexpr DigitWord::Pattern endPattern("0:00:00?");
-    DigitWord date;
-    DigitWord middle;
-    DigitWord end;
-    if (!date.read(text.data(), datePattern) || !middle.read(text.data() + 8, middlePattern) ||
-        !end.read(text.data() + 12, endPattern)) {
-        return false;
-    }
-    ClockReader rest{text.substr(length)};
-    moment.time = {middle.pair(3), middle.pair(6), end.pair(5), 0};
-    if (!rest.readFraction(moment.time.microsecond)) return false;
-    moment.day = ordinal(date.pair(0) * 100 + date.pair(2), date.pair(5), middle.pair(0));
-    moment.offset = rest.rest;
-    return true;
-}
 
 bool readAnyForm(std::string_view text, Moment& moment) {
     constexpr std::size_t shortest = 11;  // "2026W01T00Z"
@@ -263,9 +267,12 @@ bool isOnDay(const Clock& time, int day) {
     return time.minute == 0 && time.second == 0 && time.microsecond == 0 && day < lastDay;
 }
 
+bool isUTC(std::string_view offset) {
+    return offset == "Z" || offset == "+00:00";
+}
+
 // Reads the offset from UTC in microseconds, which must take up the text to its end.
 bool readOffset(std::string_view text, std::int64_t& offset) {
-    if (text == "Z" || text == "+00:00") return true;
     ClockReader reader{text};
     const bool negative = reader.skip('-');
     if (!negative && !reader.skip('+')) return false;
@@ -275,17 +282,57 @@ bool readOffset(std::string_view text, std::int64_t& offset) {
     return clock.microseconds() < secondsPerDay * microsecondsPerSecond;
 }
 
+std::int64_t utcMicroseconds(int day, const Clock& time, std::int64_t offset) {
+    const std::int64_t days = day - ordinalOf1970;
+    return days * secondsPerDay * microsecondsPerSecond + time.microseconds() - offset;
+}
+
+// Apart from the common form, which needs no stack without it.
+[[gnu::noinline]] bool readFractionAndOffset(std::string_view text, int& microsecond, std::int64_t& offset) {
+    ClockReader reader{text};
+    if (!reader.readFraction(microsecond)) return false;
+    return isUTC(reader.rest) || readOffset(reader.rest, offset);
+}
+
+[[gnu::noinline]] bool readLongWay(std::string_view text, std::int64_t& value) {
+    Moment moment;
+    std::int64_t offset = 0;
+    if (!readAnyForm(text, moment) || moment.day == noDay || moment.day > lastDay) return false;
+    if (!isOnDay(moment.time, moment.day)) return false;
+    if (!isUTC(moment.offset) && !readOffset(moment.offset, offset)) return false;
+    value = utcMicroseconds(moment.day, moment.time, offset);
+    return true;
+}
+
+// Reads the common form; false when the text is not of it, or holds what needs a closer look.
+bool readCommonForm(std::string_view text, std::int64_t& value) {
+    constexpr std::size_t length = 19;
+    if (std::endian::native != std::endian::little || text.size() <= length) return false;
+    static constexpr DigitWord::Pattern datePattern("9999-19-");
+    static constexpr DigitWord::Pattern middlePattern("39?29:59");
+    static constexpr DigitWord::Pattern endPattern("9:59:59?");
+    const DigitWord date(text.data(), datePattern);
+    const DigitWord middle(text.data() + 8, middlePattern);
+    const DigitWord end(text.data() + 12, endPattern);
+    if ((date.misfit() | middle.misfit() | end.misfit()) != 0) return false;
+
+    const int year = date.pair(0) * 100 + date.pair(2);
+    const int month = date.pair(5);
+    const int day = middle.pair(0);
+    Clock time{middle.pair(3), middle.pair(6), end.pair(5), 0};
+    if (time.hour > 23 || !isCalendarDay(year, month, day)) return false;
+
+    const std::string_view rest = text.substr(length);
+    std::int64_t offset = 0;
+    if (!isUTC(rest) && !readFractionAndOffset(rest, time.microsecond, offset)) return false;
+    value = utcMicroseconds(ordinal(year, month, day), time, offset);
+    return true;
+}
+
 }  // namespace
 
 bool readMicroseconds(std::string_view text, std::int64_t& value) {
-    Moment moment;
-    std::int64_t offset = 0;
-    if (!readCommonForm(text, moment) && !readAnyForm(text, moment)) return false;
-    if (moment.day == noDay || moment.day > lastDay || !isOnDay(moment.time, moment.day)) return false;
-    if (!readOffset(moment.offset, offset)) return false;
-    const std::int64_t days = moment.day - ordinalOf1970;
-    value = days * secondsPerDay * microsecondsPerSecond + moment.time.microseconds() - offset;
-    return true;
+    return readCommonForm(text, value) || readLongWay(text, value);
 }
 
 }  // namespace vellark::PythonISOTimestamp

@@ -46,6 +46,14 @@ std::size_t runLength(std::string_view text, char character) {
     return length;
 }
 
+// False only for lines that are no fence: a look at the first bytes, which spares most lines the rest.
+bool mayBeFence(std::string_view line) {
+    std::size_t spaces = 0;
+    while (spaces < line.size() && line[spaces] == ' ' && spaces <= mostLeadingSpaces)
+        ++spaces;
+    return line.size() - spaces >= smallestRun && (line[spaces] == '`' || line[spaces] == '~');
+}
+
 // A line that begins like a fence: the run of markers behind few enough blanks.
 struct FenceRun {
     char marker;
@@ -136,9 +144,10 @@ private:
     };
 
     void takeLine(std::string_view line, std::size_t offset) {
+        const bool isMarked = mayBeFence(line);
         if (fence_) {
-            if (closes(*fence_, line)) fence_.reset();
-        } else if (const auto fence = openedFence(line)) {
+            if (isMarked && closes(*fence_, line)) fence_.reset();
+        } else if (const auto fence = isMarked ? openedFence(line) : std::nullopt) {
             fence_ = fence;
             table_.reset();
         } else if (!hasBar(line, offset)) {

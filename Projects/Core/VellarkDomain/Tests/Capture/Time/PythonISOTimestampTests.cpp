@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <cstdio>
+
 namespace vellark {
 namespace {
 
@@ -198,6 +201,28 @@ private:
 
     testing::Generator generator_{20'260'101};
 };
+
+// Every day there is, counted one by one, and the days behind the end of each month.
+TEST(PythonISOTimestamp, knowsEachDay) {
+    const std::array<int, 12> lengths = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+    std::int64_t expected = -62'135'596'800'000'000;
+    for (int year = 1; year <= 9999; ++year) {
+        const bool isLeapYear = year % 4 == 0 && (year % 100 != 0 || year % 400 == 0);
+        for (int month = 1; month <= 12; ++month) {
+            const int length = lengths[static_cast<std::size_t>(month - 1)] + (month == 2 && isLeapYear ? 1 : 0);
+            for (int day = 1; day <= 32; ++day) {
+                std::array<char, 64> text{};
+                std::snprintf(text.data(), text.size(), "%04d-%02d-%02dT00:00:00Z", year, month, day);
+                if (day > length) {
+                    ASSERT_EQ(microseconds(text.data()), std::nullopt) << text.data();
+                } else {
+                    ASSERT_EQ(microseconds(text.data()), expected) << text.data();
+                    expected += 86'400'000'000;
+                }
+            }
+        }
+    }
+}
 
 TEST(PythonISOTimestamp, agreesWithPython) {
     TimestampTexts texts;

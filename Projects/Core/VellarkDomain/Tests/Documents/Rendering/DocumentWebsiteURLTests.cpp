@@ -93,7 +93,7 @@ TEST(DocumentWebsiteURL, isTheRegularLanguageOfItsExpression) {
     auto texts = testing::randomTexts(3, 20'000, 9, pieces);
     for (std::string& text : testing::randomTexts(4, 40'000, 7, pieces))
         texts.push_back("https://a" + text);
-    const auto answers = testing::PythonPeer::answers(R"(
+    const auto answers = testing::PythonPeer::answers(R"python(
 import re
 path = r"(?:[A-Za-z0-9\-._~!$&'()*+,;=:@/]|%[0-9A-Fa-f]{2})*"
 query = r"(?:[A-Za-z0-9\-._~!$&'()*+,;=:@/?]|%[0-9A-Fa-f]{2})*"
@@ -101,7 +101,7 @@ host = r"(?:\[[0-9A-Fa-f:.]+\]|[A-Za-z0-9\-._~!$&'()*+,;=]+)"
 whole = re.compile(("[Hh][Tt][Tt][Pp][Ss]?://" + host + r"(?::([0-9]*))?(?:/" + path + r")?(?:\?" + query + ")?(?:#" + query + ")?").encode())
 def answer(case):
     found = whole.fullmatch(case)
-    return b'1' if found and (not found[1] or 1 <= int(found[1]) <= 65535) else b'0')",
+    return b'1' if found and (not found[1] or 1 <= int(found[1]) <= 65535) else b'0')python",
                                                       texts);
     if (!answers) GTEST_SKIP() << "no python3";
     for (std::size_t index = 0; index < texts.size(); ++index) {

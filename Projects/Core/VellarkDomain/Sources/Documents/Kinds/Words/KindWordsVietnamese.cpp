@@ -1,0 +1,175 @@
+#include <VellarkDomain/Documents/Kinds/Words/KindWords.hpp>
+
+#include <array>
+
+// Vietnamese words that name a document. A title's head stands first, so a noun is listed with and without the
+// classifier that may open it ("bản kế hoạch", "kế hoạch"). Forms without accents are derived. To mend: move or add a
+// word inside its kind's row, common word first, never under two kinds; the number of words is counted by a test, which
+// changes with the list.
+
+namespace vellark::KindWords {
+
+namespace {
+
+constexpr std::array<Layered, 55> words{{
+    {DocumentKind::prd,
+     "tài liệu yêu cầu sản phẩm, yêu cầu sản phẩm, bản mô tả tính năng, ý tưởng sản phẩm, yêu cầu tính năng, "
+     "mô tả tính năng, tầm nhìn sản phẩm",
+     ""},
+    {DocumentKind::spec,
+     "đặc tả, bản đặc tả, tài liệu đặc tả, yêu cầu kỹ thuật, yêu cầu chức năng, yêu cầu hệ thống, "
+     "tài liệu yêu cầu, thông số kỹ thuật, phân tích yêu cầu, yêu cầu nghiệp vụ, yêu cầu phần mềm",
+     ""},
+    {DocumentKind::plan,
+     "kế hoạch, bản kế hoạch, dự thảo kế hoạch, lộ trình, chiến lược, thời gian biểu, thời khóa biểu, "
+     "thời khoá biểu, lịch làm việc, lịch trình dự án, mục tiêu, timeline dự án, bảng kế hoạch, tiến độ dự án, "
+     "lịch công tác",
+     ""},
+    {DocumentKind::userStories, "câu chuyện người dùng, trường hợp sử dụng, tiêu chí chấp nhận, tiêu chí nghiệm thu",
+     ""},
+    {DocumentKind::meetingNotes,
+     "biên bản, ghi chú cuộc họp, ghi chú họp, nội dung cuộc họp, tóm tắt cuộc họp, chương trình họp, "
+     "ghi chép cuộc họp, kết luận cuộc họp",
+     ""},
+    {DocumentKind::report,
+     "báo cáo, bản báo cáo, dự thảo báo cáo, phân tích, đánh giá, tổng kết, kiểm toán, bài báo cáo, sơ kết, "
+     "bản đánh giá, mẫu báo cáo",
+     ""},
+    {DocumentKind::research,
+     "nghiên cứu, bài nghiên cứu, khảo sát, phân tích thị trường, phân tích đối thủ, phân tích swot, so sánh, "
+     "bảng so sánh, tổng quan tài liệu, phiếu khảo sát, kết quả khảo sát, tìm hiểu",
+     ""},
+    {DocumentKind::retrospective,
+     "rút kinh nghiệm, bài học kinh nghiệm, tổng kết dự án, tổng kết sprint, bài học rút ra, nhìn lại", ""},
+    {DocumentKind::checklist,
+     "danh sách kiểm tra, bảng kiểm, danh sách công việc, việc cần làm, danh sách việc cần làm, danh sách mua sắm, "
+     "checklist công việc, những việc cần làm, công việc cần làm, checklist chuẩn bị",
+     ""},
+    {DocumentKind::proposal, "đề xuất, bản đề xuất, tờ trình, đề án, phương án, kiến nghị, mẫu đề xuất", ""},
+    {DocumentKind::memo, "ghi chú, ghi nhớ, ghi chép, lời nhắc", ""},
+    {DocumentKind::presentation,
+     "bài thuyết trình, thuyết trình, bản trình bày, bài trình bày, slide thuyết trình, tham luận, slide báo cáo", ""},
+    {DocumentKind::designDoc,
+     "tài liệu thiết kế, thiết kế hệ thống, thiết kế kỹ thuật, thiết kế phần mềm, thiết kế cơ sở dữ liệu, "
+     "thiết kế api, kiến trúc hệ thống, kiến trúc phần mềm, mô hình dữ liệu, sơ đồ kiến trúc, "
+     "quyết định kiến trúc, sơ đồ lớp, giải pháp kỹ thuật",
+     ""},
+    {DocumentKind::apiDoc, "tài liệu api, đặc tả api, hướng dẫn api, tài liệu tích hợp api, mô tả api", ""},
+    {DocumentKind::testPlan,
+     "kế hoạch kiểm thử, kế hoạch test, trường hợp kiểm thử, kịch bản kiểm thử, kịch bản test, tài liệu kiểm thử, "
+     "ca kiểm thử, chiến lược kiểm thử",
+     ""},
+    {DocumentKind::bugReport, "báo cáo lỗi, báo lỗi, danh sách lỗi, báo cáo bug, lỗi khi, lỗi đăng nhập, mô tả lỗi",
+     ""},
+    {DocumentKind::codeReview, "đánh giá mã nguồn, đánh giá code, rà soát code, kiểm tra mã nguồn, nhận xét code", ""},
+    {DocumentKind::postmortem,
+     "báo cáo sự cố, phân tích sự cố, tổng kết sự cố, điều tra sự cố, phân tích nguyên nhân gốc rễ", ""},
+    {DocumentKind::changelog,
+     "nhật ký thay đổi, lịch sử thay đổi, lịch sử phiên bản, lịch sử cập nhật, ghi chú phát hành, ghi chú phiên bản",
+     ""},
+    {DocumentKind::guide,
+     "hướng dẫn, tài liệu hướng dẫn, sách hướng dẫn, cẩm nang, sổ tay, quy trình, cách sử dụng, cách cài đặt, "
+     "cách dùng, tài liệu kỹ thuật, khắc phục sự cố, xử lý sự cố, thủ tục, bài hướng dẫn, qui trình, các bước",
+     ""},
+    {DocumentKind::data,
+     "dữ liệu, bộ dữ liệu, số liệu, bảng tính, thống kê, bảng thống kê, danh sách, bảng điểm, bảng chấm công, "
+     "bảng số liệu, danh bạ, bảng dữ liệu",
+     ""},
+    {DocumentKind::prompt, "prompt, câu lệnh ai, mẫu prompt, bộ prompt, prompt viết, prompt tạo", ""},
+    {DocumentKind::design,
+     "thiết kế, bản thiết kế, bản vẽ, phác thảo, nguyên mẫu, giao diện, chân dung người dùng, "
+     "hành trình khách hàng, chân dung khách hàng, mẫu thiết kế",
+     ""},
+    {DocumentKind::designSystem,
+     "hệ thống thiết kế, bộ nhận diện thương hiệu, nhận diện thương hiệu, hướng dẫn thương hiệu, "
+     "quy chuẩn thiết kế, hướng dẫn thiết kế, cẩm nang thương hiệu",
+     ""},
+    {DocumentKind::marketingCopy,
+     "bài quảng cáo, nội dung quảng cáo, quảng cáo, bài viết quảng cáo, khẩu hiệu, tờ rơi, mô tả sản phẩm, "
+     "bài viết bán hàng, content bán hàng, content quảng cáo, bài pr",
+     ""},
+    {DocumentKind::sales,
+     "tài liệu bán hàng, hồ sơ năng lực, kịch bản bán hàng, kịch bản telesale, bảng giá, thư chào hàng, thư ngỏ", ""},
+    {DocumentKind::pressRelease, "thông cáo, bản tin báo chí, bài thông cáo báo chí", ""},
+    {DocumentKind::newsletter, "bản tin, điểm tin, thư tin tức", ""},
+    {DocumentKind::socialPost,
+     "bài đăng, bài post, bài viết facebook, bài viết fanpage, bài viết linkedin, bài viết mạng xã hội, "
+     "nội dung mạng xã hội, content facebook, caption cho, caption facebook",
+     ""},
+    {DocumentKind::businessPlan,
+     "kế hoạch kinh doanh, bản kế hoạch kinh doanh, mô hình kinh doanh, phương án kinh doanh, kế hoạch khởi nghiệp",
+     ""},
+    {DocumentKind::finance,
+     "ngân sách, dự toán, hóa đơn, hoá đơn, báo giá, bảng báo giá, báo cáo tài chính, báo cáo thu chi, bảng lương, "
+     "bảng cân đối kế toán, sổ thu chi, quyết toán, dòng tiền, kế hoạch tài chính, phân tích tài chính, phiếu thu, "
+     "đơn đặt hàng, đề nghị thanh toán, báo cáo chi phí, phiếu chi, phiếu lương, tờ khai thuế, "
+     "giấy đề nghị thanh toán",
+     ""},
+    {DocumentKind::legal,
+     "hợp đồng, mẫu hợp đồng, dự thảo hợp đồng, thỏa thuận, thoả thuận, điều khoản, giấy ủy quyền, đơn khởi kiện, "
+     "biên bản ghi nhớ, biên bản nghiệm thu, biên bản bàn giao, giấy phép, điều lệ, bản cam kết, nghị định, "
+     "phụ lục hợp đồng, bản án, giấy uỷ quyền, biên bản thanh lý",
+     ""},
+    {DocumentKind::policy, "chính sách, quy định, quy chế, nội quy, quy tắc, tiêu chuẩn, quyết định, nghị quyết", ""},
+    {DocumentKind::notice, "thông báo, bản thông báo, giấy mời, thư mời", ""},
+    {DocumentKind::jobPosting,
+     "tin tuyển dụng, thông báo tuyển dụng, tuyển dụng, mô tả công việc, bản mô tả công việc, cần tuyển, "
+     "tuyển nhân viên, bài tuyển dụng",
+     ""},
+    {DocumentKind::email,
+     "thư điện tử, email gửi, email cảm ơn, email mời, email xin, mẫu email, thư cảm ơn, thư gửi, thư xin lỗi, "
+     "công văn, email xác nhận",
+     "thư"},
+    {DocumentKind::faq,
+     "câu hỏi thường gặp, những câu hỏi thường gặp, hỏi đáp, hỏi và đáp, giải đáp thắc mắc, các câu hỏi thường gặp",
+     ""},
+    {DocumentKind::blogPost, "bài viết, bài blog, bài đăng blog, bài báo, phóng sự", ""},
+    {DocumentKind::script, "kịch bản, lời thoại, phụ đề, bài phát biểu, lời dẫn", ""},
+    {DocumentKind::essay,
+     "bài luận, tiểu luận, bài tiểu luận, bài văn, cảm nhận, cảm nghĩ, tản văn, phê bình, review phim, "
+     "phân tích bài thơ, phân tích tác phẩm, nghị luận",
+     ""},
+    {DocumentKind::story, "truyện, tiểu thuyết, bài thơ, thơ, cổ tích, lời bài hát", ""},
+    {DocumentKind::translation, "bản dịch, bài dịch, tài liệu dịch, dịch thuật", ""},
+    {DocumentKind::learning,
+     "giáo án, giáo trình, tài liệu học tập, tài liệu đào tạo, chương trình đào tạo, chương trình học, khóa học, "
+     "khoá học, bài học, đề cương môn học, kế hoạch bài dạy, kế hoạch đào tạo, chuyên đề, chương trình giảng dạy",
+     ""},
+    {DocumentKind::lectureNotes, "bài giảng, ghi chép bài giảng, ghi chú bài giảng, tóm tắt bài giảng, slide bài giảng",
+     ""},
+    {DocumentKind::studyNotes,
+     "ghi chú học tập, ghi chép học tập, đề cương ôn tập, đề cương ôn thi, ôn tập, tài liệu ôn tập, "
+     "tóm tắt kiến thức, tổng hợp kiến thức, sơ đồ tư duy, thẻ ghi nhớ, từ vựng, công thức toán",
+     ""},
+    {DocumentKind::readingNotes,
+     "ghi chú đọc sách, nhật ký đọc sách, tóm tắt sách, tóm tắt tác phẩm, cảm nhận sách, điểm sách, review sách", ""},
+    {DocumentKind::exercises, "bài tập, phiếu bài tập, phiếu học tập, bài toán, bài thực hành, luyện tập", ""},
+    {DocumentKind::solutions, "lời giải, đáp án, bài giải, hướng dẫn giải, giải bài tập, giải đề, giải chi tiết", ""},
+    {DocumentKind::quiz,
+     "đề thi, bài thi, đề kiểm tra, bài kiểm tra, trắc nghiệm, bài trắc nghiệm, câu hỏi trắc nghiệm, "
+     "ngân hàng câu hỏi, kiểm tra giữa kỳ, bộ đề, câu đố, thi thử",
+     ""},
+    {DocumentKind::errorNotes, "sổ tay lỗi sai, sổ lỗi sai, tổng hợp lỗi sai, lỗi sai, những câu sai", ""},
+    {DocumentKind::paper,
+     "luận văn, luận án, khóa luận, khoá luận, đồ án, bài báo khoa học, công trình nghiên cứu, đề tài nghiên cứu, "
+     "nghiên cứu khoa học, chuyên đề tốt nghiệp, đề cương luận văn",
+     ""},
+    {DocumentKind::journal, "nhật ký, nhật kí, sổ nhật ký", ""},
+    {DocumentKind::resume,
+     "sơ yếu lý lịch, sơ yếu lí lịch, lý lịch, hồ sơ xin việc, đơn xin việc, thư xin việc, cv xin việc, cv của, "
+     "thư ứng tuyển",
+     ""},
+    {DocumentKind::travelPlan,
+     "kế hoạch du lịch, lịch trình, kế hoạch chuyến đi, kế hoạch đi chơi, hành trình, cẩm nang du lịch, "
+     "hướng dẫn du lịch",
+     ""},
+    {DocumentKind::recipe, "công thức, cách nấu, cách làm bánh, thực đơn, sổ tay nấu ăn, cách làm món", ""},
+}};
+
+}  // namespace
+
+std::span<const Layered> vietnamese() {
+    return words;
+}
+
+}  // namespace vellark::KindWords
