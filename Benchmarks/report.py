@@ -29,12 +29,9 @@ import processes
 HERE = Path(__file__).resolve().parent
 REPETITIONS = 7
 
-# Subject to peer, a script that takes the folder of data and prints lists of seconds by name, as JSON.
-PYTHON_PEERS = {"kinds": "pyahocorasick.py"}
-
 # Subject to the script in Peers and its arguments. It prints an object of figures' names and lists of seconds.
 PAGES = HERE.parent / "Projects/Core/VellarkDomain/Tests/Data/HTML"
-PYTHON_PEERS = {"html": ["html_parser.py", PAGES], "timestamp": ["fromisoformat.py"]}
+PYTHON_PEERS = {"html": ["html_parser.py", PAGES], "kinds": ["pyahocorasick.py"], "timestamp": ["fromisoformat.py"]}
 
 
 def program_subjects(programs):
@@ -56,29 +53,21 @@ def program_figures(program, directory):
     return figures
 
 
-def peer_figures(subject):
-    """The figures of the subject's peer in Python; none, and a note, where that cannot run."""
+def peer_figures(subject, directory):
+    """The figures of the subject's peer in Python, by the first interpreter that has the modules which it needs; none,
+    and a note, where it cannot run."""
     if subject not in PYTHON_PEERS:
         return {}
     script, *arguments = PYTHON_PEERS[subject]
-    try:
-        ended = subprocess.run([processes.interpreter(), HERE / "Peers" / script, *arguments],
-                               stdout=subprocess.PIPE, check=True)
-    except (OSError, subprocess.CalledProcessError) as error:
-        print(f"note: {script} was not measured: {error}", file=sys.stderr)
-        return {}
-    return json.loads(ended.stdout)
-
-
-def python_figures(script, directory):
-    """The peer's figures, by the first interpreter that has the peer; nothing, with a note, where none has."""
-    for interpreter in dict.fromkeys((sys.executable, shutil.which("python3", path=os.defpath))):
-        if interpreter is None:
-            continue
-        ended = subprocess.run([interpreter, HERE / "Peers" / script, directory], stdout=subprocess.PIPE)
-        if ended.returncode == 0:
+    for interpreter in dict.fromkeys((processes.interpreter(), shutil.which("python3", path=os.defpath))):
+        try:
+            ended = subprocess.run([interpreter, HERE / "Peers" / script, *arguments],
+                                   env=dict(os.environ, VELLARK_BENCHMARK_DATA=str(directory)),
+                                   stdout=subprocess.PIPE, check=True)
             return json.loads(ended.stdout)
-    print(f"note: the peer {script} is missing or failed", file=sys.stderr)
+        except (OSError, TypeError, subprocess.CalledProcessError) as problem:
+            error = problem
+    print(f"note: {script} was not measured: {error}", file=sys.stderr)
     return {}
 
 
@@ -157,7 +146,7 @@ def main():
         for subject in chosen:
             print(f"measuring {subject}", file=sys.stderr)
             if subject in in_process:
-                figures[subject] = program_figures(in_process[subject], workplace.directory) | peer_figures(subject)
+                figures[subject] = program_figures(in_process[subject], workplace.directory) | peer_figures(subject, workplace.directory)
             else:
                 figures[subject] = processes.SUBJECTS[subject](workplace)
     warn_when_busy()
