@@ -37,6 +37,7 @@ BYTES = "#bytesPerSecond"
 PAGES = HERE.parent / "Projects/Core/VellarkDomain/Tests/Data/HTML"
 PYTHON_PEERS = {
     "html": ["html_parser.py", PAGES],
+    "kinds": ["pyahocorasick.py"],
     "richtext": ["pygments_lexing.py", HERE / "Samples"],
     "timestamp": ["fromisoformat.py"],
 }
@@ -63,18 +64,22 @@ def program_figures(program, directory):
     return figures
 
 
-def peer_figures(subject):
-    """The figures of the subject's peer in Python; none, and a note, where that cannot run."""
+def peer_figures(subject, directory):
+    """The figures of the subject's peer in Python, by the first interpreter that has the modules which it needs; none,
+    and a note, where it cannot run."""
     if subject not in PYTHON_PEERS:
         return {}
     script, *arguments = PYTHON_PEERS[subject]
-    try:
-        ended = subprocess.run([processes.interpreter(), HERE / "Peers" / script, *arguments],
-                               stdout=subprocess.PIPE, check=True)
-    except (OSError, subprocess.CalledProcessError) as error:
-        print(f"note: {script} was not measured: {error}", file=sys.stderr)
-        return {}
-    return json.loads(ended.stdout)
+    for interpreter in dict.fromkeys((processes.interpreter(), shutil.which("python3", path=os.defpath))):
+        try:
+            ended = subprocess.run([interpreter, HERE / "Peers" / script, *arguments],
+                                   env=dict(os.environ, VELLARK_BENCHMARK_DATA=str(directory)),
+                                   stdout=subprocess.PIPE, check=True)
+            return json.loads(ended.stdout)
+        except (OSError, TypeError, subprocess.CalledProcessError) as problem:
+            error = problem
+    print(f"note: {script} was not measured: {error}", file=sys.stderr)
+    return {}
 
 
 def shown(figure, kind):
@@ -156,13 +161,16 @@ def main():
         for subject in chosen:
             print(f"measuring {subject}", file=sys.stderr)
             if subject in in_process:
-                figures[subject] = program_figures(in_process[subject], workplace.directory) | peer_figures(subject)
+                figures[subject] = program_figures(in_process[subject], workplace.directory) | peer_figures(subject, workplace.directory)
             else:
                 figures[subject] = processes.SUBJECTS[subject](workplace)
     warn_when_busy()
 
     results = [row(goal, figures[goal["subject"]]) for goal in goals if goal["subject"] in figures]
     print_table([cells for cells, _ in results])
+    if "kinds" in figures:
+        print("\naccuracy of kinds", flush=True)
+        subprocess.run([in_process["kinds"], "--accuracy"], check=True)
     if options.json:
         options.json.write_text(json.dumps(figures, indent=2))
     return 1 if any(met is False for _, met in results) else 0

@@ -108,7 +108,8 @@ TEST(DocumentKindClassifier, asksOnePlaceAfterAnother) {
              one.headings.clear();
          },
          sure(guide, Level::declared)},
-        {"topic", [](auto& one) { one = {.title = "강의 정리"}; }, sure(lectureNotes, Level::cue)},
+        {"topic", [](auto& one) { one = {.title = "강의 정리"}; },
+         DocumentKindGuess{{lectureNotes, studyNotes}, Level::cue, false}},
         {"body", [](auto& one) { one = {.title = "Sync", .body = one.body}; }, sure(meetingNotes, Level::body)},
     };
     for (const Row& row : rows) {

@@ -125,6 +125,13 @@ TEST(DocumentKindMatcher, keepsBoundaries) {
     }
 }
 
+TEST(DocumentKindMatcher, keepsEqualPatternsApart) {
+    const std::vector<std::u32string> patterns(4, U"plan");
+    const DocumentKindMatcher matcher({.patterns = patterns, .compound = {false, true, false, true}});
+    const std::vector<Hit> expected = {{1, 1, 5}, {3, 1, 5}, {0, 6, 10}, {1, 6, 10}, {2, 6, 10}, {3, 6, 10}};
+    EXPECT_EQ(matcher.hits(U"xplan plan"), expected);
+}
+
 TEST(DocumentKindMatcher, ordersHits) {
     const std::vector<std::u32string> patterns = {U"の", U"", U"本の", U"日本の", U"の", U"日本"};
     const DocumentKindMatcher matcher({.patterns = patterns});

@@ -1,7 +1,7 @@
 #include <VellarkDomain/Documents/Kinds/Lexicon/DocumentKindLexicon.hpp>
 #include <VellarkDomain/Documents/Kinds/Matcher/ScalarClasses.hpp>
-#include <VellarkDomain/Text/RangeCover.hpp>
 #include <VellarkDomain/Documents/Kinds/Rules/DocumentKindRules.hpp>
+#include <VellarkDomain/Text/RangeCover.hpp>
 
 #include <algorithm>
 #include <functional>

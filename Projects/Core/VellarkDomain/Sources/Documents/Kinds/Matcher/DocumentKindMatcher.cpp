@@ -73,8 +73,7 @@ std::vector<DocumentKindMatcher::Traits> DocumentKindMatcher::traits(const Patte
                          .compound = flagAt(patterns.compound, index),
                          .hangulStart = ScalarClasses::isHangulSyllable(pattern.front()),
                          .hangulEnd = ScalarClasses::isHangulSyllable(pattern.back()),
-                         .suffixHead = flagAt(patterns.suffixHead, index),
-                         .length = static_cast<std::uint32_t>(pattern.size())};
+                         .suffixHead = flagAt(patterns.suffixHead, index)};
     }
     return result;
 }
@@ -131,7 +130,9 @@ DoubleArray DocumentKindMatcher::tries(std::span<const std::u32string> patterns)
         std::uint32_t last = noPattern;
         for (const DoubleArray::Key& key : keys[trie]) {
             if (!unique.empty() && std::ranges::equal(unique.back().codes, key.codes)) {
-                traits_[last].nextEqual = key.value;
+                // The first trie that holds a pattern holds all that equal it.
+                traits_[last].hasEqual = true;
+                nextEqual_.try_emplace(last, key.value);
             } else {
                 unique.push_back(key);
             }
@@ -207,7 +208,7 @@ private:
             state = array_.step(state, MatcherAlphabet::code(entries_[position]));  // the end of the text has no child
             if (state == DoubleArray::none) return;
             if (!array_.isEnd(state)) continue;
-            for (auto pattern = array_.value(state); pattern != noPattern; pattern = traits(pattern).nextEqual) {
+            for (auto pattern = array_.value(state); pattern != noPattern; pattern = nextEqual(pattern)) {
                 if (mayEnd(traits(pattern), position + 1)) add(pattern, start, position + 1);
             }
         }
@@ -219,7 +220,7 @@ private:
             state = array_.step(state, MatcherAlphabet::code(entries_[--start]));
             if (state == DoubleArray::none) return;
             if (!array_.isEnd(state)) continue;
-            for (auto pattern = array_.value(state); pattern != noPattern; pattern = traits(pattern).nextEqual) {
+            for (auto pattern = array_.value(state); pattern != noPattern; pattern = nextEqual(pattern)) {
                 if (mayStandBack(traits(pattern), start, end)) add(pattern, start, end);
             }
         }
@@ -244,6 +245,10 @@ private:
         if (text_[position] == U'e') ++position;
         return position < text_.size() && text_[position] == U's' &&
                (entries_[position + 1] & MatcherAlphabet::boundary) != 0;
+    }
+
+    [[nodiscard]] std::uint32_t nextEqual(std::uint32_t pattern) const {
+        return traits(pattern).hasEqual ? matcher_.nextEqual_.at(pattern) : noPattern;
     }
 
     [[nodiscard]] const Traits& traits(std::uint32_t pattern) const { return matcher_.traits_[pattern]; }

@@ -4,6 +4,7 @@
 #include <VellarkDomain/Documents/Kinds/Matcher/MatcherAlphabet.hpp>
 
 #include <cstdint>
+#include <map>
 #include <span>
 #include <string>
 #include <string_view>
@@ -68,15 +69,15 @@ public:
 private:
     class Scan;
 
+    // One byte, so that those of all patterns stay in the nearest cache.
     struct Traits {
-        bool spaced = false;
-        bool plural = false;
-        bool compound = false;
-        bool hangulStart = false;
-        bool hangulEnd = false;
-        bool suffixHead = false;
-        std::uint32_t length = 0;
-        std::uint32_t nextEqual = noPattern;  // the next pattern of the same text
+        bool spaced : 1 = false;
+        bool plural : 1 = false;
+        bool compound : 1 = false;
+        bool hangulStart : 1 = false;
+        bool hangulEnd : 1 = false;
+        bool suffixHead : 1 = false;
+        bool hasEqual : 1 = false;  // a later pattern is the same text
     };
 
     static constexpr std::uint32_t noPattern = 0xFFFF'FFFF;
@@ -101,6 +102,7 @@ private:
     }
 
     std::vector<Traits> traits_;
+    std::map<std::uint32_t, std::uint32_t> nextEqual_;  // of patterns that have an equal
     MatcherAlphabet alphabet_;
     std::vector<std::uint64_t> pairs_;  // hashed pairs of codes with which walks begin
     DoubleArray array_;

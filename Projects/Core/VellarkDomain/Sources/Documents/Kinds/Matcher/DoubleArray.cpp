@@ -4,8 +4,7 @@
 
 // Building walks the sorted keys range by range, so that no trie of nodes stands in between: the keys below a state are
 // one range, and those below its children are the runs of equal codes at the next depth. Places are found by first fit
-// over a list of free cells. States with many children are few and are mostly near the roots, which are placed first;
-// the many states with one child take whatever cell is free.
+// over a list of free cells. States with many children are few, and the many with one child take the first free cell.
 
 namespace vellark {
 
@@ -42,9 +41,11 @@ public:
             array_.roots_.push_back(root);
             pending_.push_back({root, 0, keys});
         }
-        // Breadth first: what stands near a root is placed while there is room to choose from.
-        for (std::size_t next = 0; next < pending_.size(); ++next) {
-            expand(Pending(pending_[next]));
+        // Depth first: the states of a word take cells side by side, which a walk finds in one line of the cache.
+        while (!pending_.empty()) {
+            const Pending next = pending_.back();
+            pending_.pop_back();
+            expand(next);
         }
         finish();
     }

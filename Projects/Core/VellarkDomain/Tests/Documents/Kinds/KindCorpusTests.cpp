@@ -1,0 +1,31 @@
+#include "Documents/Kinds/KindCorpus.hpp"
+
+#include <gtest/gtest.h>
+
+namespace vellark {
+namespace {
+
+std::string joined(const std::vector<std::string>& lines) {
+    std::string text;
+    for (const std::string& line : lines) {
+        text += line + "\n";
+    }
+    return text;
+}
+
+// What the word lists are good for, on titles and documents that their writers did not choose.
+TEST(KindCorpus, isClassifiedAsPromised) {
+    constexpr double mostDecidedWithoutKind = 3;
+    constexpr double fewestDocumentsRight = 90;
+    testing::KindCorpus corpus(std::string(VELLARK_TEST_DATA) + "/Kinds");
+    if (!corpus.run()) GTEST_SKIP() << "no titles in Tests/Data/Kinds";
+    for (const auto& [language, score] : corpus.languages) {
+        const double fewest = language == "ko" || language == "en" ? 95 : 90;
+        EXPECT_GE(score.percent(), fewest) << language << "\n" << joined(score.misses);
+    }
+    EXPECT_LE(100 - corpus.kindless.percent(), mostDecidedWithoutKind) << joined(corpus.kindless.misses);
+    EXPECT_GE(corpus.documents.percent(), fewestDocumentsRight) << joined(corpus.documents.misses);
+}
+
+}  // namespace
+}  // namespace vellark
