@@ -82,6 +82,11 @@ Break readBreak(UChar32 scalar) {
     }
 }
 
+bool isWord(UChar32 scalar, std::uint32_t category) {
+    constexpr std::uint32_t categories = U_GC_M_MASK | U_GC_ND_MASK | U_GC_PC_MASK;
+    return u_isUAlphabetic(scalar) || (category & categories) != 0 || scalar == 0x200C || scalar == 0x200D;
+}
+
 Word readWord(UChar32 scalar) {
     const auto when = [](bool holds, Word bit) { return holds ? bit : Word{0}; };
     const auto category = U_MASK(u_charType(scalar));
