@@ -38,6 +38,7 @@ PAGES = HERE.parent / "Projects/Core/VellarkDomain/Tests/Data/HTML"
 PYTHON_PEERS = {
     "html": ["html_parser.py", PAGES],
     "kinds": ["pyahocorasick.py"],
+    "redaction": ["re_redaction.py", HERE.parent / "Projects/Core/VellarkDomain/Tests/Data/Redaction/ordinary.tsv"],
     "richtext": ["pygments_lexing.py", HERE / "Samples"],
     "timestamp": ["fromisoformat.py"],
 }
@@ -171,6 +172,9 @@ def main():
     if "kinds" in figures:
         print("\naccuracy of kinds", flush=True)
         subprocess.run([in_process["kinds"], "--accuracy"], check=True)
+    if "redaction" in figures:
+        print("\nsecrets and ordinary lines", flush=True)
+        subprocess.run([in_process["redaction"], "--tables"], check=True)
     if options.json:
         options.json.write_text(json.dumps(figures, indent=2))
     return 1 if any(met is False for _, met in results) else 0

@@ -74,6 +74,68 @@ LastWords lastWords(std::string_view key) {
     return words;
 }
 
+constexpr char lowered(char byte) {
+    return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte + ('a' - 'A')) : byte;
+}
+
+bool equalsInAnyCase(std::string_view text, std::string_view lower) {
+    return text.size() == lower.size() &&
+           std::equal(text.begin(), text.end(), lower.begin(),
+                      [](char byte, char expected) { return lowered(byte) == expected; });
+}
+
+template <class List>
+bool holdsInAnyCase(const List& list, std::string_view word) {
+    return std::any_of(list.begin(), list.end(),
+                       [word](std::string_view entry) { return equalsInAnyCase(word, entry); });
+}
+
+// The last two letters of all words that end a secret's key: a test that most keys fail.
+bool mayBeSecretWord(char first, char last) {
+    switch (lowered(last)) {
+        case 's':
+            return lowered(first) == 's' || lowered(first) == 'l';
+        case 'd':
+            return lowered(first) == 'w' || lowered(first) == 'r';
+        case 'e':
+            return lowered(first) == 's';
+        case 't':
+        case 'y':
+        case 'n':
+            return lowered(first) == 'e';
+        case 'l':
+            return lowered(first) == 'a';
+        default:
+            return false;
+    }
+}
+
+// The last word of a key of ASCII, which is taken from the key; empty when the key has no word any more. Words are
+// parted by what is neither letter nor digit, and before a capital behind a small letter or a digit.
+std::string_view takeLastWord(std::string_view& key) {
+    constexpr ByteClass wordBytes("A-Za-z0-9");
+    constexpr ByteClass capitals("A-Z");
+    while (!key.empty() && !wordBytes.holds(key.back()))
+        key.remove_suffix(1);
+    std::size_t start = key.size();
+    while (start > 0 && wordBytes.holds(key[start - 1])) {
+        --start;
+        const bool isHump = capitals.holds(key[start]) && start > 0 && wordBytes.holds(key[start - 1]) &&
+                            !capitals.holds(key[start - 1]);
+        if (isHump) break;
+    }
+    const std::string_view word = key.substr(start);
+    key = key.substr(0, start);
+    return word;
+}
+
+bool isSecretASCIIKey(std::string_view key) {
+    const std::string_view last = takeLastWord(key);
+    if (last.size() < 3 || !mayBeSecretWord(last[last.size() - 2], last.back())) return false;
+    return holdsInAnyCase(secretWords, last) ||
+           (equalsInAnyCase(last, "key") && holdsInAnyCase(secretKeyKinds, takeLastWord(key)));
+}
+
 // A key that names a secret and the sign behind it.
 struct Key {
     std::size_t end;
@@ -90,7 +152,7 @@ std::optional<Key> keyBefore(std::string_view text, std::size_t sign) {
     while (start > 0 && keyBytes.holds(text[start - 1]))
         --start;
     if (start == end || !asciiLetters.holds(text[start])) return std::nullopt;
-    if (!isSecretKey(text.substr(start, end - start))) return std::nullopt;
+    if (!isSecretASCIIKey(text.substr(start, end - start))) return std::nullopt;
     return Key{end, sign};
 }
 
@@ -145,7 +207,7 @@ private:
     BareRun bareRun(std::size_t start) const {
         BareRun run{.start = start, .end = start};
         while (run.end < text_.size()) {
-            if (known_ && run.end == known_->start) return joined(run, *known_);
+            if (run.end == known_.start) return joined(run, known_);
             const auto decoded = UTF8::decode(text_, run.end);
             if (isStop(decoded.scalar)) break;
             ++run.characters;
@@ -178,7 +240,7 @@ private:
 
     std::string_view text_;
     std::string_view mark_;
-    std::optional<BareRun> known_;  // the one that was looked at last
+    BareRun known_{.start = std::string_view::npos};  // the one that was looked at last
 };
 
 }  // namespace
@@ -188,10 +250,14 @@ bool isSecretKey(std::string_view key) {
     return holds(secretWords, words.last) || (words.last == "key" && holds(secretKeyKinds, words.first));
 }
 
+bool endsSecretKey(std::string_view text, std::size_t sign) {
+    return keyBefore(text, sign).has_value();
+}
+
 std::vector<ByteRange> values(std::string_view text, std::string_view mark) {
     std::vector<Key> keys;
-    for (std::size_t sign = text.find_first_of(":="); sign != std::string_view::npos;
-         sign = text.find_first_of(":=", sign + 1)) {
+    for (std::size_t sign = 0; sign < text.size(); ++sign) {
+        if (text[sign] != ':' && text[sign] != '=') continue;
         if (const auto key = keyBefore(text, sign)) keys.push_back(*key);
     }
     ValueFinder finder(text, mark);

@@ -3,6 +3,7 @@
 // by pattern, jumping from one fixed part to the next.
 
 #include <VellarkDomain/Conversations/Redaction/ByteClass.hpp>
+#include <VellarkDomain/Conversations/Redaction/SecretKeys.hpp>
 #include <VellarkDomain/Conversations/Redaction/SecretPatterns.hpp>
 #include <VellarkDomain/Conversations/Redaction/SecretScanner.hpp>
 #include <VellarkFoundation/Text/UTF8.hpp>
@@ -10,6 +11,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstdint>
 #include <optional>
 
@@ -83,11 +85,19 @@ public:
             for (const char other : {second, uppered(second)})
                 add(one, other);
         }
-        for (int byte = 0; byte < 256; ++byte) {
-            add(static_cast<char>(byte), ':');
-            add(static_cast<char>(byte), '=');
+        // What may stand between a secret's key and its sign, and the last letters of such keys.
+        for (const char before : std::string_view("\"' \t_.-sdetnlySDETNLY")) {
+            add(before, ':');
+            add(before, '=');
+        }
+        for (std::size_t index = 0; index < std::size(fixedParts); ++index) {
+            const FixedPart& part = fixedParts[index];
+            partsByFirst_[static_cast<unsigned char>(part.text[part.pair])] |= 1U << index;
         }
     }
+
+    /// A bit for each fixed part whose pair begins with the byte.
+    [[nodiscard]] std::uint32_t parts(char first) const { return partsByFirst_[static_cast<unsigned char>(first)]; }
 
     [[nodiscard]] bool holds(char first, char second) const {
         const std::size_t index = pairIndex(first, second);
@@ -101,7 +111,10 @@ private:
     }
 
     std::array<std::uint64_t, 1024> bits_{};
+    std::array<std::uint32_t, 256> partsByFirst_{};
 };
+
+static_assert(std::size(fixedParts) <= 32);
 
 bool equalsInAnyCase(std::string_view text, std::size_t position, std::string_view lower) {
     if (position + lower.size() > text.size()) return false;
@@ -109,26 +122,15 @@ bool equalsInAnyCase(std::string_view text, std::size_t position, std::string_vi
                       [](char expected, char byte) { return lowered(byte) == expected; });
 }
 
-void noteFixedParts(std::string_view text, std::size_t position, Candidates& found) {
-    for (const FixedPart& part : fixedParts) {
-        const bool isPair = part.text[part.pair] == text[position] && part.text[part.pair + 1] == text[position + 1];
-        if (isPair && position >= part.pair && isAt(text, position - part.pair, part.text)) found.set(part.pattern);
+void noteFixedParts(std::string_view text, std::size_t position, std::uint32_t parts, Candidates& found) {
+    for (; parts != 0; parts &= parts - 1) {
+        const FixedPart& part = fixedParts[std::countr_zero(parts)];
+        if (position >= part.pair && isAt(text, position - part.pair, part.text)) found.set(part.pattern);
     }
     if (position >= authorizationPair && lowered(text[position]) == authorization[authorizationPair] &&
         equalsInAnyCase(text, position - authorizationPair, authorization)) {
         found.set(authorizationPattern);
     }
-}
-
-// The last letters of the words that name secrets. What stands before a sign of assignment and ends otherwise names
-// none.
-bool mayEndSecretKey(std::string_view text, std::size_t sign) {
-    while (sign > 0 && blanks.holds(text[sign - 1]))
-        --sign;
-    if (sign > 0 && (text[sign - 1] == '"' || text[sign - 1] == '\'')) --sign;
-    while (sign > 0 && (text[sign - 1] == '_' || text[sign - 1] == '.' || text[sign - 1] == '-'))
-        --sign;
-    return sign > 0 && std::string_view("sdetnlySDETNLY").find(text[sign - 1]) != std::string_view::npos;
 }
 
 std::vector<ByteRange> privateKeys(std::string_view text) {
@@ -266,8 +268,10 @@ std::vector<ByteRange> authorizations(std::string_view text) {
     while (start + authorization.size() <= text.size()) {
         // "z" is the rarest letter of the word.
         constexpr std::size_t rarest = 7;
-        const std::size_t found = text.find_first_of("zZ", start + rarest);
-        if (found == std::string_view::npos) break;
+        std::size_t found = start + rarest;
+        while (found < text.size() && text[found] != 'z' && text[found] != 'Z')
+            ++found;
+        if (found == text.size()) break;
         start = found - rarest;
         std::optional<ByteRange> value;
         if (equalsInAnyCase(text, start, authorization) && !CharacterClass::isBehindWord(text, start)) {
@@ -337,13 +341,17 @@ std::vector<ByteRange> addressPasswords(std::string_view text) {
 Candidates candidates(std::string_view text) {
     static const PairFilter filter;
     Candidates found;
+    if (text.empty()) return found;
+    char current = text[0];
     for (std::size_t position = 0; position + 1 < text.size(); ++position) {
-        if (!filter.holds(text[position], text[position + 1])) continue;
-        const char second = text[position + 1];
-        if ((second == ':' || second == '=') && !found[keyCandidate] && mayEndSecretKey(text, position + 1)) {
-            found.set(keyCandidate);
+        const char next = text[position + 1];
+        if (filter.holds(current, next)) {
+            noteFixedParts(text, position, filter.parts(current), found);
+            const bool isSign = next == ':' || next == '=';
+            if (isSign && !found[keyCandidate] && SecretKeys::endsSecretKey(text, position + 1))
+                found.set(keyCandidate);
         }
-        noteFixedParts(text, position, found);
+        current = next;
     }
     return found;
 }
