@@ -113,8 +113,8 @@ bool mayBeSecretWord(char first, char last) {
 // The last word of a key of ASCII, which is taken from the key; empty when the key has no word any more. Words are
 // parted by what is neither letter nor digit, and before a capital behind a small letter or a digit.
 std::string_view takeLastWord(std::string_view& key) {
-    constexpr ByteClass wordBytes("A-Za-z0-9");
-    constexpr ByteClass capitals("A-Z");
+    static constexpr ByteClass wordBytes("A-Za-z0-9");
+    static constexpr ByteClass capitals("A-Z");
     while (!key.empty() && !wordBytes.holds(key.back()))
         key.remove_suffix(1);
     std::size_t start = key.size();
@@ -228,7 +228,7 @@ private:
 
     static bool isStop(char32_t scalar) {
         if (scalar < 0x80) {
-            constexpr ByteClass stops(" \t\n\v\f\r\"',;&");
+            static constexpr ByteClass stops(" \t\n\v\f\r\"',;&");
             return stops.holds(static_cast<char>(scalar));
         }
         return CharacterClass::isWhitespace(scalar);

@@ -248,7 +248,7 @@ bool isQuoteAt(std::string_view text, std::size_t position) {
 
 // The value behind the word that ends at the position.
 std::optional<ByteRange> authorizationValue(std::string_view text, std::size_t position) {
-    constexpr ByteClass marks("0-9+/");
+    static constexpr ByteClass marks("0-9+/");
     if (isQuoteAt(text, position)) ++position;
     position = blanks.runEnd(text, position);
     if (!isByteAt(text, position, ':') && !isByteAt(text, position, '=')) return std::nullopt;
@@ -284,7 +284,7 @@ std::vector<ByteRange> authorizations(std::string_view text) {
 }
 
 std::vector<ByteRange> bearers(std::string_view text) {
-    constexpr ByteClass marks("0-9");
+    static constexpr ByteClass marks("0-9");
     std::vector<ByteRange> result;
     for (const std::string_view scheme : {"Bearer", "Basic", "Token"}) {
         for (std::size_t start = text.find(scheme); start != std::string_view::npos;) {
