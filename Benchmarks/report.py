@@ -19,6 +19,7 @@ programs have a peer in Python beside them, whose figures join theirs.
 import argparse
 import json
 import os
+import shutil
 import statistics
 import subprocess
 import sys
