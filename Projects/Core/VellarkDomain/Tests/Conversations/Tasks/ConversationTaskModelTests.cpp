@@ -232,7 +232,8 @@ TEST(ConversationTaskModelTests, buildingIsItsPlainReading) {
         const auto expected = Model(runs).tasks(feed);
         ASSERT_EQ(tasks.size(), expected.size()) << "seed " << seed;
         for (std::size_t task = 0; task < tasks.size(); ++task)
-            ASSERT_TRUE(tasks[task] == expected[task]) << "seed " << seed << ", task " << task << ", " << tasks[task].id;
+            ASSERT_TRUE(tasks[task] == expected[task])
+                << "seed " << seed << ", task " << task << ", " << tasks[task].id;
         for (const auto& task : tasks) {
             ++built;
             if (task.depth > 1) ++nested;
