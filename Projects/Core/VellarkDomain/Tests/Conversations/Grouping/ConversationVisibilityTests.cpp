@@ -19,6 +19,15 @@ TEST(ConversationVisibilityTests, settingsSayWhatIsHidden) {
     EXPECT_FALSE(visibility.accepts("hermes"));
 }
 
+TEST(ConversationVisibilityTests, theListNeedsBothSwitches) {
+    AppSettings settings;
+    EXPECT_FALSE(settings.showsAgentConversations()) << "reading records was not allowed yet";
+    settings.capture.readsSessionRecords = true;
+    EXPECT_TRUE(settings.showsAgentConversations());
+    settings.advanced.agentConversations = false;
+    EXPECT_FALSE(settings.showsAgentConversations());
+}
+
 TEST(ConversationVisibilityTests, foldersAreHidden) {
     AppSettings settings;
     settings.advanced.hiddenSessionRoots = {"/srv/private"};
