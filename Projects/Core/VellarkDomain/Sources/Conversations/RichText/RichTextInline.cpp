@@ -14,7 +14,9 @@
 #include <cmark-gfm-core-extensions.h>
 #include <cmark-gfm-extension_api.h>
 #include <cmark-gfm.h>
+#include <cmark-gfm/buffer.h>
 #include <cmark-gfm/inlines.h>
+#include <cmark-gfm/node.h>
 #include <cmark-gfm/parser.h>
 #include <cmark-gfm/syntax_extension.h>
 
@@ -53,6 +55,19 @@ bool needsMarkdown(std::string_view text) {
     return text.find("www.") != std::string_view::npos;
 }
 
+bool has(std::string_view text, std::string_view piece) {
+    return text.find(piece) != std::string_view::npos;
+}
+
+// Whether cmark would give back the text as it is, which most texts with but one of these marks are: ":" begins an
+// address only in "://", "[" a link only in "](", "&" an entity only before a ";", and single "~" are guarded anyway.
+bool isInert(std::string_view text) {
+    if (text.find_first_of(std::string_view("*_`<\\@\r\0", 8)) != std::string_view::npos) return false;
+    const bool mayEscape = has(text, "&") && has(text, ";");
+    return !mayEscape && !has(text, "://") && !has(text, "](") && !has(text, "~~") && !has(text, "www.") &&
+           UTF8::isValid(text);
+}
+
 std::string replacingAll(std::string_view text, std::string_view from, std::string_view to) {
     std::string result;
     std::size_t start = 0;
@@ -68,15 +83,19 @@ std::string replacingAll(std::string_view text, std::string_view from, std::stri
 // The text as cmark gets it, and what brings its answers back.
 class Source {
 public:
-    explicit Source(std::string_view text) : text_(UTF8::replacingInvalid(text)) {
+    explicit Source(std::string_view text) : text_(text) {
+        if (!UTF8::isValid(text_)) keep(UTF8::replacingInvalid(text_));
         protectTildes();
-        if (text_.find('\0') != std::string::npos) {
-            text_ = replacingAll(text_, std::string_view("\0", 1), "\uFFFD");
-        }
+        if (has(text_, nul)) keep(replacingAll(text_, nul, "\uFFFD"));
         protectBlanks();
     }
+    Source(const Source&) = delete;
+    Source& operator=(const Source&) = delete;
 
-    [[nodiscard]] const std::string& text() const { return text_; }
+    [[nodiscard]] std::string_view text() const { return text_; }
+
+    /// Whether pieces are as the writer wrote them already.
+    [[nodiscard]] bool isUnchanged() const { return blankStandIn_.empty() && !protectsTildes_; }
     [[nodiscard]] bool protectsTildes() const { return protectsTildes_; }
 
     /// A piece of the text, or of what cmark made of it, as the writer wrote it.
@@ -91,8 +110,15 @@ public:
     }
 
 private:
+    static constexpr std::string_view nul{"\0", 1};
+
+    void keep(std::string text) {
+        changed_ = std::move(text);
+        text_ = changed_;
+    }
+
     void protectTildes() {
-        if (text_.find('~') == std::string::npos || text_.find(tildeStandIn) != std::string::npos) return;
+        if (!has(text_, "~") || has(text_, tildeStandIn)) return;
         std::string result;
         for (std::size_t index = 0; index < text_.size(); ++index) {
             const bool isSingle = text_[index] == '~' && (index == 0 || text_[index - 1] != '~') &&
@@ -104,7 +130,7 @@ private:
                 result += text_[index];
             }
         }
-        text_ = std::move(result);
+        keep(std::move(result));
     }
 
     static bool isBlankOrTab(char byte) { return byte == ' ' || byte == '\t'; }
@@ -112,9 +138,9 @@ private:
     static bool isSpace(char byte) { return isBlankBefore(byte) || byte == '\n' || byte == '\r'; }
 
     void protectBlanks() {
-        if (text_.find('\n') == std::string::npos && !isSpace(text_.back())) return;
+        if (!has(text_, "\n") && !isSpace(text_.back())) return;
         for (const std::string_view candidate : blankStandIns) {
-            if (text_.find(candidate) == std::string::npos) {
+            if (!has(text_, candidate)) {
                 blankStandIn_ = candidate;
                 break;
             }
@@ -128,10 +154,11 @@ private:
             if (isFeed && index + 1 < text_.size() && isBlankOrTab(text_[index + 1])) result += blankStandIn_;
         }
         if (isSpace(text_.back())) result += blankStandIn_;
-        text_ = std::move(result);
+        keep(std::move(result));
     }
 
-    std::string text_;
+    std::string_view text_;
+    std::string changed_;  // what `text_` views, when it is not the writer's own
     std::string_view blankStandIn_;
     bool protectsTildes_ = false;
 };
@@ -244,15 +271,18 @@ public:
         return parser;
     }
 
-    Node parse(const std::string& text) {
+    Node parse(std::string_view text) {
         const std::lock_guard lock(mutex_);
         Node document(cmark_node_new(CMARK_NODE_DOCUMENT));
         cmark_node* paragraph = cmark_node_new(CMARK_NODE_PARAGRAPH);
         cmark_node_append_child(document.get(), paragraph);
-        cmark_node_set_string_content(paragraph, text.c_str());
+        cmark_strbuf_set(&paragraph->content, reinterpret_cast<const unsigned char*>(text.data()),
+                         static_cast<bufsize_t>(text.size()));
         cmark_manage_extensions_special_characters(parser_, 1);
         cmark_parse_inlines(parser_, paragraph, parser_->refmap, CMARK_OPT_DEFAULT);
         cmark_manage_extensions_special_characters(parser_, 0);
+        // What follows looks for mail addresses only.
+        if (!has(text, "@")) return document;
         cmark_consolidate_text_nodes(document.get());
         for (cmark_syntax_extension* extension : extensions_) {
             if (extension->postprocess_func != nullptr) {
@@ -321,10 +351,13 @@ private:
         }
         const char* literal = cmark_node_get_literal(node);
         if (literal == nullptr) return;
-        if (type == CMARK_NODE_CODE) {
-            append(source_.restored(codeSpans_.next(literal).value_or(literal)), Traits::code);
+        const bool isCode = type == CMARK_NODE_CODE;
+        const std::string_view piece = isCode ? codeSpans_.next(literal).value_or(literal) : literal;
+        const std::uint32_t traits = isCode ? Traits::code : 0;
+        if (source_.isUnchanged()) {
+            append(piece, traits);
         } else {
-            append(source_.restored(literal), 0);
+            append(source_.restored(piece), traits);
         }
     }
 
@@ -338,22 +371,23 @@ private:
         }
     }
 
-    void append(std::string text, std::uint32_t more) {
+    void append(std::string_view text, std::uint32_t more) {
         if (text.empty()) return;
         const auto when = [](int depth, std::uint32_t bit) { return depth > 0 ? bit : 0; };
         const Traits traits{when(bold_, Traits::bold) | when(italic_, Traits::italic) |
                             when(strikethrough_, Traits::strikethrough) | more};
-        std::optional<std::string> link;
-        if (!links_.empty()) {
-            link = links_.back();
-        } else if (!images_.empty()) {
-            link = images_.back();
-        }
+        const std::optional<std::string>& link = currentLink();
         if (!runs_.empty() && runs_.back().traits == traits && runs_.back().link == link) {
             runs_.back().text += text;
         } else {
-            runs_.push_back({.text = std::move(text), .traits = traits, .link = std::move(link)});
+            runs_.push_back({.text = std::string(text), .traits = traits, .link = link});
         }
+    }
+
+    const std::optional<std::string>& currentLink() const {
+        static const std::optional<std::string> none;
+        if (!links_.empty()) return links_.back();
+        return images_.empty() ? none : images_.back();
     }
 
     const Source& source_;
@@ -370,7 +404,7 @@ private:
 
 std::vector<Run> ConversationRichText::inlineRuns(std::string_view text) {
     if (text.empty()) return {};
-    if (text.size() > inlineLimit || !needsMarkdown(text)) return {{.text = std::string(text)}};
+    if (text.size() > inlineLimit || !needsMarkdown(text) || isInert(text)) return {{.text = std::string(text)}};
     const Source source(text);
     return RunBuilder(source).runs(InlineParser::shared().parse(source.text()).get());
 }

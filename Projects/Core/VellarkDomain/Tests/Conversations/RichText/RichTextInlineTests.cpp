@@ -81,6 +81,21 @@ TEST(RichTextInlineTests, whiteSpaceAndWordsAreKept) {
     }
 }
 
+// A text that is given back without asking cmark is what cmark would have made of it.
+TEST(RichTextInlineTests, inertTextsAreSeenAsInert) {
+    const auto texts =
+        testing::randomTexts(77, 30'000, 12, {":", "://", "/", "[",    "]",   "(", ")", "!", "&",  "amp",
+                                              ";", "~",   "#", "http", "www", ".", "a", " ", "\n", "한"});
+    for (const std::string& text : texts) {
+        const auto runs = ConversationRichText::inlineRuns(text);
+        const bool mayGrow = text.ends_with("www.") || text.ends_with("/");  // to an address, with what is added
+        if (runs.size() != 1 || runs[0].text != text || runs[0].link || mayGrow) continue;
+        const auto parsed = ConversationRichText::inlineRuns(text + " *x*");
+        ASSERT_EQ(parsed.size(), 2U) << ::testing::PrintToString(text);
+        ASSERT_EQ(parsed[0].text, text + " ");
+    }
+}
+
 TEST(RichTextInlineTests, neighboursDifferAndNoneIsEmpty) {
     const auto texts = testing::randomTexts(
         76, 20'000, 14,

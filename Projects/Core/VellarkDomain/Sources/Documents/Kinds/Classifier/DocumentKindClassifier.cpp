@@ -158,7 +158,7 @@ private:
             addMarkers(patterns, heading);
         }
         std::ranges::sort(patterns);
-        patterns.erase(std::ranges::unique(patterns).begin(), patterns.end());
+        patterns.erase(std::unique(patterns.begin(), patterns.end()), patterns.end());
 
         std::array<int, caseTable<DocumentKind>.size()> scores{};
         for (const std::uint32_t pattern : patterns) {

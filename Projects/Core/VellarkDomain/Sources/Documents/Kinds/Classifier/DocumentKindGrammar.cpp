@@ -224,8 +224,9 @@ bool DocumentKindGrammar::isComplement(const Found& found) const {
 }
 
 bool DocumentKindGrammar::complementEndsAt(std::uint32_t position, DocumentKindLanguageSet languages) const {
-    const auto ending = std::ranges::equal_range(complements_, position, {}, &Found::end);
-    return std::ranges::any_of(ending, [&](const Found* complement) {
+    const auto first = std::ranges::lower_bound(complements_, position, {}, &Found::end);
+    const auto last = std::ranges::upper_bound(complements_, position, {}, &Found::end);
+    return std::any_of(first, last, [&](const Found* complement) {
         return complement->start > 0 && complement->term->languages.intersects(languages);
     });
 }
