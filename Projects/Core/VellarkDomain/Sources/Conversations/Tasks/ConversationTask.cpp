@@ -1,6 +1,7 @@
 #include <VellarkDomain/Conversations/RichText/ConversationRichText.hpp>
 #include <VellarkDomain/Conversations/Tasks/ConversationTask.hpp>
 #include <VellarkDomain/Conversations/Text/ConversationText.hpp>
+#include <VellarkFoundation/Text/LineBreaks.hpp>
 #include <VellarkFoundation/Unicode/CharacterClass.hpp>
 #include <VellarkFoundation/Unicode/Graphemes.hpp>
 
@@ -24,22 +25,21 @@ bool isRunning(const ConversationTask& task, Date now) {
            now.secondsSince1970 - task.lastActivity->secondsSince1970 < ConversationTask::quietWindow;
 }
 
-// The first line that holds a character other than white space; empty when there is none.
-std::string_view firstWrittenLine(std::string_view text) {
-    std::size_t lineStart = 0;
-    bool isWritten = false;
-    for (std::size_t start = 0; start < text.size();) {
-        const std::size_t next = GraphemeBreak::next(text, start);
-        const std::string_view character = text.substr(start, next - start);
-        if (CharacterClass::isNewline(character)) {
-            if (isWritten) return text.substr(lineStart, start - lineStart);
-            lineStart = next;
-        } else if (!isWritten) {
-            isWritten = !CharacterClass::isWhitespace(character);
-        }
+bool isBlank(std::string_view line) {
+    for (std::size_t start = 0; start < line.size();) {
+        const std::size_t next = GraphemeBreak::next(line, start);
+        if (!CharacterClass::isWhitespace(line.substr(start, next - start))) return false;
         start = next;
     }
-    return isWritten ? text.substr(lineStart) : std::string_view();
+    return true;
+}
+
+// Empty when all lines are blank.
+std::string_view firstWrittenLine(std::string_view text) {
+    for (const std::string_view line : LineBreaks::split(text)) {
+        if (!isBlank(line)) return line;
+    }
+    return {};
 }
 
 std::string shorteningPath(std::string_view word) {
@@ -81,7 +81,7 @@ std::optional<std::string_view> ConversationTask::owner(const Entry& entry) {
 std::string ConversationTask::titleOf(const TitleSource& source) {
     if (source.task) {
         std::string line = ConversationText::oneLine(*source.task);
-        if (!line.empty()) return ConversationText::clipped(line, titleLimit).text;
+        if (!line.empty()) return ConversationText::clipped(line, ConversationText::titleLimit).text;
     }
     if (source.prompt) {
         std::string line = ConversationText::title(shorteningPaths(firstWrittenLine(*source.prompt)));

@@ -27,12 +27,9 @@ struct ConversationTask {
     /// After so many seconds without activity an open task no longer counts as running.
     static constexpr double quietWindow = 1'800;
 
-    /// The longest title, in characters.
-    static constexpr std::size_t titleLimit = 80;
-
     std::string id;                           ///< of the entry that opened the task
     std::string name;                         ///< of the subagent
-    std::string title;                        ///< at most `titleLimit` characters
+    std::string title;                        ///< at most 80 characters
     std::optional<std::string> role;          ///< raw value of a ConversationRole
     std::optional<std::string> threadID;      ///< of its run
     std::optional<ConversationEntry> prompt;  ///< the delegation that opened it
