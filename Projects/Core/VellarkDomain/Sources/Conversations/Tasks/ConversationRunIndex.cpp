@@ -12,10 +12,11 @@ std::string_view lastPiece(std::string_view threadID) {
     return threadID;
 }
 
-void setLocationKey(std::string& key, std::string_view path, std::string_view threadID) {
-    key.assign(path);
+void setLocationKey(std::string& key, const std::string& path, const std::string* threadID) {
+    key = path;
+    if (threadID == nullptr) return;
     key += '#';
-    key += threadID;
+    key += *threadID;
 }
 
 }  // namespace
@@ -25,7 +26,7 @@ ConversationRunIndex::ConversationRunIndex(std::span<const ConversationRun> runs
         const ConversationRun& run = runs[place];
         if (run.delegationID) delegations_.insert_or_assign(*run.delegationID, place);
         paths_.insert_or_assign(run.path, place);
-        setLocationKey(key_, run.path, run.threadID);
+        setLocationKey(key_, run.path, &run.threadID);
         paths_.insert_or_assign(key_, place);
         threads_.insert_or_assign(run.threadID, place);
         aliases_.insert_or_assign(run.threadID, place);
@@ -41,8 +42,7 @@ ConversationRunIndex::Place ConversationRunIndex::ofDelegation(const std::option
 
 ConversationRunIndex::Place ConversationRunIndex::ofLocation(const std::optional<ConversationTextLocation>& location) {
     if (!location) return std::nullopt;
-    if (!location->session) return found(paths_, location->path);
-    setLocationKey(key_, location->path, *location->session);
+    setLocationKey(key_, location->path, location->session ? &*location->session : nullptr);
     return found(paths_, key_);
 }
 

@@ -35,13 +35,8 @@ public:
 private:
     using Table = std::unordered_map<std::string_view, std::size_t>;
 
-    struct Hash {
-        using is_transparent = void;
-        std::size_t operator()(std::string_view text) const { return std::hash<std::string_view>()(text); }
-    };
-
     template <class Map>
-    static Place found(const Map& table, std::string_view key) {
+    static Place found(const Map& table, const typename Map::key_type& key) {
         const auto row = table.find(key);
         return row == table.end() ? std::nullopt : Place(row->second);
     }
@@ -50,7 +45,7 @@ private:
     Table threads_;
     Table aliases_;
     Table names_;
-    std::unordered_map<std::string, std::size_t, Hash, std::equal_to<>> paths_;
+    std::unordered_map<std::string, std::size_t> paths_;
     std::string key_;  // of the location that is looked up; kept for its memory
 };
 
