@@ -1,8 +1,8 @@
 // The greatest archive of boards that is valid: 100 boards of 2,000 nodes and 8,000 edges, a million items, with
 // identifiers and texts as long as people and programs make them. One iteration is the whole archive.
 //
-// Beside the check stands what its identifiers alone cost with the standard library's hash sets; `validated` is the
-// check and the copy of the archive.
+// `validated` hands the archive over and takes it back. Beside the check stands what its identifiers alone cost with
+// the standard library's hash sets.
 
 #include <VellarkDomain/Board/DocumentBoardArchive.hpp>
 
@@ -14,6 +14,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_set>
+#include <utility>
 
 namespace {
 
@@ -92,8 +93,11 @@ void check(benchmark::State& state, const Archive& archive) {
 }
 
 void validated(benchmark::State& state, const Archive& archive) {
-    for (auto _ : state)
-        benchmark::DoNotOptimize(archive.validated());
+    Archive passed = archive;
+    for (auto _ : state) {
+        passed = *std::move(passed).validated();
+        benchmark::DoNotOptimize(passed);
+    }
     setItems(state);
 }
 
