@@ -63,7 +63,7 @@ const std::string dayAndMonthNames =
     R"(jan|feb|mar|apr|jun|jul|aug|sep|oct|nov|dec)\b)";
 
 const std::string deadlineLinePattern = "(?i)" + deadlineWords +
-                                        R"((?:\s*[:：=]\s*(?!미정|없음|none\b|never\b|tbd\b|n/?a\b|0\b)\S)"
+                                        R"(\s*(?:[:：=]\s*(?!미정|없음|none\b|never\b|tbd\b|n/?a\b|0\b)\S)"
                                         R"(|[은는이]?\s+(?:\d(?!\d*\s?(?:[건명]|개(?!월)))|[월화수목금토일]요일))"
                                         R"(|\s+(?:by|on|is)\s+(?:\d|)" +
                                         dayAndMonthNames + "))" +

@@ -24,6 +24,9 @@ public:
     SummaryExpression(std::string_view pattern, Candidates candidates, Prepare prepare = nullptr)
         : regex_(Regex::compile(pattern)), candidates_(candidates), prepare_(prepare) {}
 
+    /// The expression without its test.
+    [[nodiscard]] const std::optional<Regex>& regex() const { return regex_; }
+
 private:
     friend class SummaryMatches;
 
