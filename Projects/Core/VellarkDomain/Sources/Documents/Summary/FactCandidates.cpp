@@ -57,17 +57,23 @@ bool startsWithCode(std::string_view rest) {
     return std::any_of(codes.begin(), codes.end(), [&](std::string_view code) { return rest.starts_with(code); });
 }
 
-// Bytes that may begin what stands behind a sum: a currency's word or code, or anything beyond ASCII.
-bool mayBeginUnit(char byte) {
-    return !isASCII(byte) || std::string_view("deCEGHJKMRTUV").find(byte) != npos;
+// Whether what stands here may belong to the sum before it: a currency's word, code or sign, a word of scale, or what
+// joins groups of digits.
+bool mayBeginUnit(std::string_view text, std::size_t offset) {
+    if (offset == text.size()) return false;
+    const char byte = text[offset];
+    if (isASCII(byte)) return std::string_view("deCEGHJKMRTUV").find(byte) != npos;
+    const char32_t scalar = UTF8::decode(text, offset).scalar;
+    constexpr std::u32string_view units = U"원엔달유위파円元圓십백천만억조千百万萬億亿兆";
+    return units.find(scalar) != units.npos || isCurrencySign(scalar) || CharacterClass::isWhitespace(scalar) ||
+           CharacterClass::isDecimalDigit(scalar);
 }
 
 // Whether what follows a number may make it a sum: a unit, a sign, or another group of digits.
 bool mayHaveUnit(std::string_view text, std::size_t end) {
-    if (end == text.size()) return false;
-    if (mayBeginUnit(text[end])) return true;
-    if (!isSpace(text[end]) || end + 1 == text.size()) return false;
-    return mayBeginUnit(text[end + 1]) || isDigit(text[end + 1]);
+    if (mayBeginUnit(text, end)) return true;
+    if (end == text.size() || !isSpace(text[end])) return false;
+    return mayBeginUnit(text, end + 1) || (end + 1 < text.size() && isDigit(text[end + 1]));
 }
 
 bool isLongOrGrouped(std::string_view number) {

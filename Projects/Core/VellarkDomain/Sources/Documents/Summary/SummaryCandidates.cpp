@@ -63,10 +63,6 @@ std::size_t bracketed(std::string_view text, std::size_t from, std::size_t lastR
     }
 }
 
-std::size_t firstOf(char byte, std::string_view text, std::size_t from) {
-    return text.find(byte, from);
-}
-
 // Whether text from the first to the second dollar sign may be mathematics: closely fitted, no digit behind it.
 bool mayBeMathematics(std::string_view text, std::size_t dollar) {
     const std::size_t close = text.find('$', dollar + 1);
@@ -112,20 +108,8 @@ std::size_t tag(std::string_view text, std::size_t from, std::size_t lastBracket
     return npos;
 }
 
-std::size_t tick(std::string_view text, std::size_t from, std::size_t) {
-    return firstOf('`', text, from);
-}
-
-std::size_t star(std::string_view text, std::size_t from, std::size_t) {
-    return firstOf('*', text, from);
-}
-
-std::size_t strikeMark(std::string_view text, std::size_t from, std::size_t) {
-    return text.find("~~", from);
-}
-
 std::size_t underscore(std::string_view text, std::size_t from, std::size_t) {
-    return firstOf('_', text, from);
+    return text.find('_', from);
 }
 
 std::size_t struck(std::string_view text, std::size_t from, std::size_t) {

@@ -20,9 +20,6 @@ namespace vellark::SummaryCandidates {
 [[nodiscard]] std::size_t inlineLink(std::string_view text, std::size_t from, std::size_t lastBracket);
 [[nodiscard]] std::size_t linkToken(std::string_view text, std::size_t from, std::size_t lastBracket);
 [[nodiscard]] std::size_t tag(std::string_view text, std::size_t from, std::size_t lastBracket);
-[[nodiscard]] std::size_t tick(std::string_view text, std::size_t from, std::size_t);
-[[nodiscard]] std::size_t star(std::string_view text, std::size_t from, std::size_t);
-[[nodiscard]] std::size_t strikeMark(std::string_view text, std::size_t from, std::size_t);
 [[nodiscard]] std::size_t underscore(std::string_view text, std::size_t from, std::size_t);
 [[nodiscard]] std::size_t struck(std::string_view text, std::size_t from, std::size_t);
 [[nodiscard]] std::size_t wikiAlias(std::string_view text, std::size_t from, std::size_t);

@@ -99,7 +99,8 @@ std::optional<std::string> labelledConclusion(std::string_view line) {
     if (labelEnd == line.npos) return std::nullopt;
     const std::string_view label = line.substr(0, labelEnd);
     if (GraphemeBreak::exceeds(label, longestLabel) || startsOtherBlock(line)) return std::nullopt;
-    if (!isConclusionName(DocumentSummaryExtractor::plainLine(label))) return std::nullopt;
+    const std::string plainLabel = DocumentSummaryExtractor::plainLine(label);
+    if (!isConclusionName(plainLabel)) return std::nullopt;
 
     std::string cleaned(line);
     replaceMatches(FactPattern::shared().notValueText, cleaned, "");
@@ -109,7 +110,7 @@ std::optional<std::string> labelledConclusion(std::string_view line) {
     if (colon.offset == text.npos) return std::nullopt;
     const std::string_view name = std::string_view(text).substr(0, colon.offset);
     const std::string_view statement = std::string_view(text).substr(colon.offset + colon.size);
-    if (!isConclusionName(name) || !isStatement(statement)) return std::nullopt;
+    if (!isStatement(statement) || (name != plainLabel && !isConclusionName(name))) return std::nullopt;
     return cut(text, conclusionLength);
 }
 

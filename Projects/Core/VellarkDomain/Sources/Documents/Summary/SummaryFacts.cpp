@@ -5,6 +5,7 @@
 #include <VellarkDomain/Documents/Summary/SummaryFacts.hpp>
 #include <VellarkDomain/Documents/Summary/SummaryInline.hpp>
 #include <VellarkDomain/Documents/Summary/SummaryText.hpp>
+#include <VellarkDomain/Documents/Summary/TotalLabel.hpp>
 #include <VellarkFoundation/Text/UTF8.hpp>
 #include <VellarkFoundation/Text/Whitespace.hpp>
 #include <VellarkFoundation/Unicode/CharacterClass.hpp>
@@ -126,7 +127,18 @@ bool mayHoldInRow(std::string_view row, FactKind kind) {
 }
 
 bool endsInTotalLabel(std::string_view text) {
-    return matches(pattern().totalLabel, text);
+    return TotalLabel::mayEnd(text) && matches(pattern().totalLabel, text);
+}
+
+// Whether some number may have a total label before it; asked before any number is taken apart.
+bool mayHoldTotal(std::string_view text) {
+    if (FactCandidates::totalWord(text, 0) == text.npos) return false;
+    const bool mayStart = FactCandidates::totalWordAtStart(text, 0) == 0;
+    if (mayStart && (text.find_first_of(":=") != text.npos || text.find("：") != text.npos)) return true;
+    std::size_t value = FactCandidates::value(text, 0);
+    while (value != text.npos && !TotalLabel::mayEnd(text.substr(0, value)))
+        value = FactCandidates::value(text, value + 1);
+    return value != text.npos;
 }
 
 std::optional<std::string_view> firstIn(const SummaryExpression& expression, const SummarySubject& subject) {
@@ -139,7 +151,7 @@ std::optional<std::string_view> totalValue(const SummarySubject& subject) {
     constexpr int maximumCandidates = 16;
     constexpr std::size_t labelLength = 120;
     const std::string_view text = subject.text();
-    if (FactCandidates::totalWord(text, 0) == text.npos) return std::nullopt;
+    if (!mayHoldTotal(text)) return std::nullopt;
     const Graphemes characters(text);
     SummaryMatches values(pattern().totalValue, subject);
     for (int count = 0; count < maximumCandidates; ++count) {
@@ -178,12 +190,11 @@ bool statesAnything(std::string_view bare) {
 std::optional<std::string> lineFact(std::string_view line, FactKind kind) {
     if (startsOtherBlock(line) || !mayHold(line, kind)) return std::nullopt;
     const std::string cleaned = valueText(line);
-    if (!statesAnything(hasEmphasis(cleaned) ? unmarked(cleaned) : cleaned)) return std::nullopt;
-    if (DocumentSummaryExtractor::isNavigation(line)) return std::nullopt;
     const std::string plain = plainified(cleaned);
     const SummarySubject subject(plain);
     const auto value = valueOf(kind, subject);
-    if (!value) return std::nullopt;
+    if (!value || DocumentSummaryExtractor::isNavigation(line)) return std::nullopt;
+    if (!statesAnything(hasEmphasis(cleaned) ? unmarked(cleaned) : cleaned)) return std::nullopt;
     return fitted(cleaned == line ? plain : plainified(line), *value);
 }
 

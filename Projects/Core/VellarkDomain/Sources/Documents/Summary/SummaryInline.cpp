@@ -19,19 +19,27 @@ struct InlineRule {
     std::string_view replacement;
 };
 
+// Takes all marks of one kind away, as `+ or \*{1,3} would, without the engine.
+void erase(std::string& text, std::string_view mark) {
+    if (text.find(mark) != text.npos) text = SummaryText::replacing(text, mark, "");
+}
+
 // The order counts: embeds before links, links before the brackets' content is taken for anything else.
-const std::array<InlineRule, 8>& inlineRules() {
-    static const std::array<InlineRule, 8> rules = {{
+const std::array<InlineRule, 4>& linkRules() {
+    static const std::array<InlineRule, 4> rules = {{
         {{R"(!\[\[[^\]]*\]\]|!\[[^\]]*\]\([^)]*\))", Candidates::embed, Candidates::lastRoundBracket}, ""},
         {{R"(\[\[(?:[^\]|]*\|)?([^\]]*)\]\])", Candidates::wikiLink}, "$1"},
         {{R"(\[([^\]]*)\]\([^)]*\))", Candidates::inlineLink, Candidates::lastRoundBracket}, "$1"},
         {{R"(</?[A-Za-z][^>]*>)", Candidates::tag, Candidates::lastAngleBracket}, ""},
-        {{R"(`+)", Candidates::tick}, ""},
-        {{R"(\*{1,3})", Candidates::star}, ""},
-        {{R"(~~)", Candidates::strikeMark}, ""},
-        {{R"((?<![\p{L}\p{N}])_{1,3}|_{1,3}(?![\p{L}\p{N}]))", Candidates::underscore}, ""},  // not inside a name
     }};
     return rules;
+}
+
+// Underscores that stand at the edge of a word; those inside a name stay.
+const SummaryExpression& outerUnderscore() {
+    static const SummaryExpression expression(R"((?<![\p{L}\p{N}])_{1,3}|_{1,3}(?![\p{L}\p{N}]))",
+                                              Candidates::underscore);
+    return expression;
 }
 
 const SummaryExpression& lineMarker() {
@@ -70,8 +78,11 @@ std::string withoutSeparators(std::string_view text) {
 namespace SummaryInline {
 
 std::string withoutMarkup(std::string text) {
-    for (const InlineRule& rule : inlineRules())
+    for (const InlineRule& rule : linkRules())
         replaceMatches(rule.expression, text, rule.replacement);
+    for (const std::string_view mark : {"`", "*", "~~"})
+        erase(text, mark);
+    replaceMatches(outerUnderscore(), text, "");
     return text;
 }
 

@@ -4,6 +4,7 @@
 #include <VellarkDomain/Documents/Summary/FactValues.hpp>
 #include <VellarkDomain/Documents/Summary/SummaryInline.hpp>
 #include <VellarkDomain/Documents/Summary/SummaryText.hpp>
+#include <VellarkDomain/Documents/Summary/TotalLabel.hpp>
 
 #include <gtest/gtest.h>
 
@@ -134,6 +135,25 @@ TEST(SummaryExpression, findsWhatThePlainExpressionFinds) {
         }
         EXPECT_GT(matchCount, 10U) << row.name;
     }
+}
+
+TEST(TotalLabel, neverRefusesALabel) {
+    const Regex& label = *FactPattern::shared().totalLabel.regex();
+    const std::vector<std::string> pieces = {
+        "total",      " ",     "\u3000",      "due",       "amount",   "price",     "cost",     "co\u017Ft", "gesamt",
+        "o",          "of ",   "to",          "is ",       "i\u017F ", "comes to ", "approx. ", "about ",    "summe",
+        "\u017Fumme", "итого", "нийт",        "дүн",       "합계",     "총",        "금액",     "은",        "약",
+        "(a)",        "（b）", ":",           "=",         "-",        "–",         "balance",  "x",         "9",
+        "\n",         "[는",   "ge\u017Famt", "Endbetrag", "ยอดรวม"};
+    int labels = 0;
+    for (const std::string& text : randomTexts(13, 60'000, 6, pieces)) {
+        if (!containsMatch(label, text)) continue;
+        ++labels;
+        ASSERT_TRUE(TotalLabel::mayEnd(text)) << text;
+    }
+    EXPECT_GT(labels, 3'000);
+    EXPECT_FALSE(TotalLabel::mayEnd("the total of x "));
+    EXPECT_FALSE(TotalLabel::mayEnd("costs "));
 }
 
 TEST(SummaryExpression, boundsAliasesOfTwoHundredScalars) {
