@@ -31,19 +31,24 @@ std::uint64_t folded(std::uint64_t left, std::uint64_t right) {
     return static_cast<std::uint64_t>(product) ^ static_cast<std::uint64_t>(product >> 64);
 }
 
-// 16 bytes at a time; the last ones are filled up with zeros, which the length tells from zeros in the text.
+// 16 bytes at a time. The end of a longer text is taken together with bytes before it, a shorter text is filled up with
+// zeros, which the length tells from zeros in the text.
 std::uint64_t hashOf(std::string_view text) {
     const Key& key = processKey();
     std::uint64_t hash = folded(text.size() ^ key.first, key.second);
+    std::array<std::uint64_t, 2> words{};
     const auto take = [&](std::size_t offset, std::size_t byteCount) {
-        std::array<std::uint64_t, 2> words{};
         std::memcpy(words.data(), text.data() + offset, byteCount);
         hash = folded(words[0] ^ key.first ^ hash, words[1] ^ key.second);
     };
-    std::size_t offset = 0;
-    for (; offset + 16 <= text.size(); offset += 16)
-        take(offset, 16);
-    if (offset < text.size()) take(offset, text.size() - offset);
+    if (text.size() < sizeof words) {
+        take(0, text.size());
+        return hash;
+    }
+    const std::size_t last = text.size() - sizeof words;
+    for (std::size_t offset = 0; offset < last; offset += sizeof words)
+        take(offset, sizeof words);
+    take(last, sizeof words);
     return hash;
 }
 
