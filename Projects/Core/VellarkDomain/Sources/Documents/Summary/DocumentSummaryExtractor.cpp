@@ -7,6 +7,8 @@
 #include <VellarkFoundation/Text/Whitespace.hpp>
 #include <VellarkFoundation/Unicode/Graphemes.hpp>
 
+#include <algorithm>
+
 namespace vellark::DocumentSummaryExtractor {
 
 namespace {
@@ -92,10 +94,21 @@ DocumentSummaryExtract digestOf(std::string_view text, const DocumentContentForm
     return digest;
 }
 
+// Whether there may be more characters than the limit: there are never more than scalars, whose first bytes are counted
+// much faster.
+bool mayExceedLimit(std::string_view text) {
+    constexpr std::size_t longestScalar = 4;
+    if (text.size() <= readingLimit) return false;
+    if (text.size() > readingLimit * longestScalar || !UTF8::isValid(text)) return true;
+    const auto firstBytes = std::count_if(text.begin(), text.end(),
+                                          [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80; });
+    return static_cast<std::size_t>(firstBytes) > readingLimit;
+}
+
 }  // namespace
 
 DocumentSummaryExtract extract(std::string_view text, const DocumentContentFormat& format, bool isComplete) {
-    const std::string_view read = GraphemeBreak::prefix(text, readingLimit);
+    const std::string_view read = mayExceedLimit(text) ? GraphemeBreak::prefix(text, readingLimit) : text;
     const bool isWhole = isComplete && read.size() == text.size();
     if (UTF8::isValid(read)) return digestOf(read, format, isWhole);
     return digestOf(UTF8::replacingInvalid(read), format, isWhole);

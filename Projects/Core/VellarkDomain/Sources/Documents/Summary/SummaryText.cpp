@@ -45,6 +45,10 @@ constexpr auto mayBeginWhitespace = [] {
 // The end of the white space character at the offset; the offset itself when there is none.
 std::size_t whitespaceEnd(std::string_view text, std::size_t offset) {
     if (!mayBeginWhitespace[static_cast<unsigned char>(text[offset])]) return offset;
+    const bool isAlone = offset + 1 < text.size() && static_cast<unsigned char>(text[offset + 1]) < 0x80;
+    if (text[offset] == ' ' && isAlone && offset > 0 && static_cast<unsigned char>(text[offset - 1]) < 0x80) {
+        return offset + 1;
+    }
     if (!CharacterClass::isWhitespace(UTF8::decode(text, offset).scalar)) return offset;
     const bool followsASCII = offset == 0 || static_cast<unsigned char>(text[offset - 1]) < 0x80;
     if (!followsASCII && !isBoundary(text, offset)) return offset;
