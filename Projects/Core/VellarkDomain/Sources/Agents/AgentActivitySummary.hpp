@@ -81,7 +81,7 @@ void describe(Fields& fields, AgentSessionObservation& session) {
 /// Which agent sessions are alive on this machine. Every key may be absent: an older watcher lacks newer ones.
 struct AgentActivitySummary {
     std::int64_t runningSessionCount = 0;
-    std::int64_t openSessionCount = 0;  ///< the running ones where a watcher did not tell
+    std::int64_t openSessionCount = runningSessionCount;  ///< the running ones where a watcher did not tell
     std::int64_t idleSessionCount = 0;
     std::int64_t unknownSessionCount = 0;
     std::int64_t endedSessionCount = 0;
