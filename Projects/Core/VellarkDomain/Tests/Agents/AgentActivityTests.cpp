@@ -1,3 +1,4 @@
+#include "Support/WrongTypes.hpp"
 #include <VellarkDomain/Agents/AgentActivitySummary.hpp>
 #include <VellarkFoundation/Records/RecordReader.hpp>
 #include <VellarkFoundation/Records/RecordWriter.hpp>
@@ -93,6 +94,34 @@ TEST(AgentActivitySummaryTests, errorsTellTheirPlace) {
         ASSERT_FALSE(read) << text;
         EXPECT_EQ(read.error().path, path);
     }
+}
+
+constexpr std::string_view wholeText =
+    R"({"runningSessionCount":1,"openSessionCount":2,"idleSessionCount":3,"unknownSessionCount":4,)"
+    R"("endedSessionCount":5,"childSessionCount":6,"sessions":[{"id":"s","source":"codex","projectRoot":"/p","cwd":"/c",)"
+    R"("state":"running","isSubagent":true,"model":"m","parentID":"p","observedAt":"t","liveness":"unknown",)"
+    R"("terminalLocation":{"appBundleIdentifier":"com.apple.Terminal","tty":"/dev/ttys1","processID":7,)"
+    R"("processStart":"t","processStartIdentity":"1.000000","terminalSessionID":"u"},"sourceProfileID":"i",)"
+    R"("sourceProfileLabel":"l","sourceKind":"cli","profileIdentityOrigin":"o","profileIdentityVerified":true,)"
+    R"("evidence":"e","endEvidence":"e","livenessObservedAt":"t","probeComplete":true,"failureKind":"f",)"
+    R"("processID":-2147483648,"processStart":"t"}],"observedSources":["codex"],"updatedAt":"t",)"
+    R"("lastObservedAtBySource":{"codex":"t"},"unverifiedSessionCount":7,"available":true,"detectedProcessCount":8,)"
+    R"("profiles":[{"source":"codex","sourceProfileID":"i"}],"countsComplete":false})";
+
+TEST(AgentActivitySummaryTests, whatIsReadIsWrittenAlike) {
+    const auto summary = readRecord<AgentActivitySummary>(wholeText);
+    ASSERT_TRUE(summary) << summary.error().path;
+    EXPECT_TRUE(summary->sessions[0].connectionUnverified());
+    EXPECT_EQ(writeRecord(*summary), std::string(wholeText));
+}
+
+TEST(AgentActivitySummaryTests, wrongTypesFailUnderEveryKey) {
+    testing::expectWrongTypesToFail<AgentActivitySummary>(wholeText);
+}
+
+TEST(AgentActivitySummaryTests, openSessionsAreTheRunningOnesUnlessTold) {
+    EXPECT_EQ((AgentActivitySummary{.runningSessionCount = 3}).openSessionCount, 3);
+    EXPECT_EQ((AgentActivitySummary{.runningSessionCount = 3, .openSessionCount = 0}).openSessionCount, 0);
 }
 
 TEST(AgentActivitySummaryTests, keysAreWrittenInOrder) {

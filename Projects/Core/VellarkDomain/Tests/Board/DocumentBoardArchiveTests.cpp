@@ -64,7 +64,9 @@ void expectErrors(const std::vector<Row<Part>>& rows) {
         EXPECT_EQ(archive.firstViolation(), row.error) << row.name;
         const auto validated = archive.validated();
         ASSERT_EQ(validated.has_value(), !row.error) << row.name;
-        if (validated) EXPECT_EQ(*validated, archive) << row.name;
+        if (validated) {
+            EXPECT_EQ(*validated, archive) << row.name;
+        }
     }
 }
 

@@ -1,4 +1,5 @@
 #include "Support/RandomInput.hpp"
+#include "Support/WrongTypes.hpp"
 #include <VellarkDomain/Board/DocumentBoardArchive.hpp>
 #include <VellarkDomain/Board/IdentifierSet.hpp>
 #include <VellarkFoundation/Records/RecordReader.hpp>
@@ -63,6 +64,10 @@ TEST(DocumentBoardRecordTests, nullIsAbsent) {
     const auto archive = readRecord<DocumentBoardArchive>(with(R"("documentID":"d")", R"("documentID":null,"x":[1])"));
     ASSERT_TRUE(archive);
     EXPECT_EQ(archive->boards[0].nodes[0].documentID, std::nullopt);
+}
+
+TEST(DocumentBoardRecordTests, wrongTypesFailUnderEveryKey) {
+    testing::expectWrongTypesToFail<DocumentBoardArchive>(whole);
 }
 
 struct PlaceRow {

@@ -1,3 +1,4 @@
+#include "Support/WrongTypes.hpp"
 #include <VellarkDomain/Feedback/DocumentFeedbackArchive.hpp>
 #include <VellarkFoundation/Records/RecordReader.hpp>
 #include <VellarkFoundation/Records/RecordWriter.hpp>
@@ -138,6 +139,10 @@ TEST(DocumentFeedbackArchiveTests, whatIsReadIsWrittenAlike) {
     EXPECT_EQ(archive->validated(), *archive);
     EXPECT_EQ(writeRecord(*archive), std::string(whole));
     EXPECT_EQ(writeRecord(Archive::empty()), std::string(R"({"version":1,"notes":[],"requests":{}})"));
+}
+
+TEST(DocumentFeedbackArchiveTests, wrongTypesFailUnderEveryKey) {
+    testing::expectWrongTypesToFail<Archive>(whole);
 }
 
 TEST(DocumentFeedbackArchiveTests, errorsTellTheirPlace) {

@@ -1,3 +1,4 @@
+#include "Support/WrongTypes.hpp"
 #include <VellarkDomain/Settings/AppSettings.hpp>
 #include <VellarkDomain/Settings/ConnectorStatus.hpp>
 #include <VellarkFoundation/Records/RecordHash.hpp>
@@ -28,8 +29,12 @@ TEST(AppSettingsTests, anEmptyRecordIsTheDefaults) {
     EXPECT_TRUE(defaults.showsMenuBarItem && defaults.language.empty() && !defaults.analyticsConsent);
 }
 
-TEST(AppSettingsTests, everyFieldComesBack) {
+// Settings with a value under every key.
+AppSettings whole() {
     AppSettings settings;
+    settings.watchRoots = {"/w"};
+    settings.captureAllSince = "t";
+    settings.excludedProjectRoots = {"/x"};
     settings.shelfVerticalPosition = ShelfVerticalPosition::bottom;
     settings.readerLayout = ReaderLayout::floatingPalette;
     settings.pinnedDisplayID = "d";
@@ -40,7 +45,18 @@ TEST(AppSettingsTests, everyFieldComesBack) {
     settings.notifications.documentChangesNotifySince = "t";
     settings.sound.sound = VellarkSound::calmGlass;
     settings.advanced.agentHomes = {{"codex", "/c"}};
+    settings.advanced.hiddenSessionRoots = {"/h"};
+    settings.advanced.projectParentOverrides = {{"/a/b", "/a"}};
+    settings.advanced.dismissedWorktreeSuggestions = {"/a/b"};
+    settings.capture.excludedDocumentIDs = {"id"};
+    settings.capture.typeResumeSince = {{"documents", "t"}};
+    settings.capture.readsSessionRecords = true;
     settings.analyticsConsent = false;
+    return settings;
+}
+
+TEST(AppSettingsTests, everyFieldComesBack) {
+    AppSettings settings = whole();
     const auto text = writeRecord(settings);
     ASSERT_TRUE(text);
     EXPECT_EQ(read(*text), settings);
@@ -93,11 +109,16 @@ TEST(AppSettingsTests, whatIsRetiredOrUnknownIsMigrated) {
     EXPECT_EQ(read(R"({"reviewResetMinutes":-5})").reviewResetMinutes, -5);
 }
 
-TEST(AppSettingsTests, wrongTypesFailWithTheirPlace) {
+TEST(AppSettingsTests, wrongTypesFailUnderEveryKey) {
+    const auto isTolerated = [](std::string_view path) {
+        return path == "analyticsConsent" || path.starts_with("general.documentIcons.documentKinds.") ||
+               path.starts_with("general.documentIcons.extensions.");
+    };
+    testing::expectWrongTypesToFail<AppSettings>(*writeRecord(whole()), isTolerated);
+}
+
+TEST(AppSettingsTests, valuesThatFailTellTheirPlace) {
     const std::pair<std::string_view, std::string_view> rows[] = {
-        {R"({"shelfEdge":1})", "shelfEdge"},
-        {R"({"shelfVerticalPosition":1})", "shelfVerticalPosition"},
-        {R"({"readerLayout":[]})", "readerLayout"},
         {R"({"appearance":"sepia"})", "appearance"},
         {R"({"displayMode":"all"})", "displayMode"},
         {R"({"captureMode":"none"})", "captureMode"},
@@ -105,15 +126,10 @@ TEST(AppSettingsTests, wrongTypesFailWithTheirPlace) {
         {R"({"reviewResetMinutes":1.5})", "reviewResetMinutes"},
         {R"({"watchRoots":["a",null]})", "watchRoots[1]"},
         {R"({"showsMenuBarItem":1})", "showsMenuBarItem"},
-        {R"({"hoverDelay":"fast"})", "hoverDelay"},
-        {R"({"general":{"collapseDelay":true}})", "general.collapseDelay"},
-        {R"({"general":{"documentIcons":[]}})", "general.documentIcons"},
-        {R"({"general":{"documentIcons":{"extensions":1}}})", "general.documentIcons.extensions"},
-        {R"({"general":{"documentIconSlots":{"leading":1}}})", "general.documentIconSlots.leading"},
-        {R"({"general":{"documentPurposes":[1]}})", "general.documentPurposes[0]"},
+        {R"({"hoverDelay":1e999})", ""},  // no number of any JSON text
+        {R"({"general":{"documentPurposes":["design",null]}})", "general.documentPurposes[1]"},
         {R"({"sound":{"attention":1}})", "sound.attention"},
         {R"({"advanced":{"agentHomes":{"a":null}}})", "advanced.agentHomes.a"},
-        {R"({"capture":{"enabled":"yes"}})", "capture.enabled"},
         {"[]", ""},
     };
     for (const auto& [text, path] : rows) {
@@ -121,6 +137,19 @@ TEST(AppSettingsTests, wrongTypesFailWithTheirPlace) {
         ASSERT_FALSE(settings) << text;
         EXPECT_EQ(settings.error().path, path);
     }
+}
+
+TEST(ConnectorStatusTests, wrongTypesFailUnderEveryKey) {
+    constexpr std::string_view whole =
+        R"({"id":"a","title":"A","installed":true,"connected":false,"detail":"d","lastDocumentAt":"t",)"
+        R"("lastActivityAt":"t","capabilities":{"automaticSetup":true,"nativeHooks":true,"fileWatch":true,)"
+        R"("sessionState":true,"sessionRecovery":true,"preciseTerminalFocus":true,"universalIngress":true,)"
+        R"("profileAttribution":true},"connectionMethod":"hook","cliInstalled":true,"appInstalled":false,)"
+        R"("processDetected":true,"hookConnected":true,"documentationURL":"u","agentHome":"/h","sourceProfileID":"i",)"
+        R"("sourceProfileLabel":"l","sourceKind":"cli","profileIdentityOrigin":"o","profileIdentityVerified":true})";
+    testing::expectWrongTypesToFail<ConnectorStatus>(whole);
+    EXPECT_EQ(writeRecord(*readRecord<ConnectorStatus>(whole)), std::string(whole));
+    testing::expectWrongTypesToFail<OperationResult>(R"({"ok":true,"message":""})");
 }
 
 TEST(ConnectorStatusTests, aStatusNeedsItsSentence) {
