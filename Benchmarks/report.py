@@ -19,6 +19,7 @@ programs have a peer in Python beside them, whose figures join theirs.
 import argparse
 import json
 import os
+import shutil
 import statistics
 import subprocess
 import sys
@@ -38,6 +39,7 @@ PAGES = HERE.parent / "Projects/Core/VellarkDomain/Tests/Data/HTML"
 PYTHON_PEERS = {
     "html": ["html_parser.py", PAGES],
     "kinds": ["pyahocorasick.py"],
+    "redaction": ["re_redaction.py", HERE.parent / "Projects/Core/VellarkDomain/Tests/Data/Redaction/ordinary.tsv"],
     "richtext": ["pygments_lexing.py", HERE / "Samples"],
     "timestamp": ["fromisoformat.py"],
 }
@@ -171,6 +173,9 @@ def main():
     if "kinds" in figures:
         print("\naccuracy of kinds", flush=True)
         subprocess.run([in_process["kinds"], "--accuracy"], check=True)
+    if "redaction" in figures:
+        print("\nsecrets and ordinary lines", flush=True)
+        subprocess.run([in_process["redaction"], "--tables"], check=True)
     if options.json:
         options.json.write_text(json.dumps(figures, indent=2))
     return 1 if any(met is False for _, met in results) else 0

@@ -22,7 +22,9 @@ function(vellark_configure_target target)
             $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
     endif()
     if(VELLARK_SANITIZERS)
-        target_compile_options(${target} PRIVATE -fsanitize=${VELLARK_SANITIZERS} -fno-sanitize-recover=all)
+        # With sanitizers' own code in between, GCC takes optionals for uninitialised that are not.
+        target_compile_options(${target} PRIVATE -fsanitize=${VELLARK_SANITIZERS} -fno-sanitize-recover=all
+            $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
         target_link_options(${target} PUBLIC -fsanitize=${VELLARK_SANITIZERS})
     endif()
     if(VELLARK_LIBFUZZER)

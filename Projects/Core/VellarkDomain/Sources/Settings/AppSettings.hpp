@@ -87,6 +87,11 @@ struct AppSettings {
     CapturePreferences capture;
     std::optional<bool> analyticsConsent;  ///< absent: not asked yet
 
+    /// Whether there is a list of conversations: the user wants it, and lets agents' session records be read.
+    [[nodiscard]] bool showsAgentConversations() const {
+        return advanced.agentConversations && capture.readsSessionRecords == true;
+    }
+
     bool operator==(const AppSettings&) const = default;
 };
 

@@ -57,6 +57,15 @@ bool isMark(char32_t scalar) {
     return has(scalar, ScalarData::mark);
 }
 
+bool isBehindWord(std::string_view text, std::size_t byte) {
+    while (byte > 0) {
+        byte = UTF8::previousOffset(text, byte);
+        const auto word = ScalarData::of(UTF8::decode(text, byte).scalar);
+        if ((word & ScalarData::hanging) == 0) return (word & ScalarData::word) != 0;
+    }
+    return false;
+}
+
 bool isWhitespace(std::string_view character) {
     return isWhitespace(firstScalar(character));
 }

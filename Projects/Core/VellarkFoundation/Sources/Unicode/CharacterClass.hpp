@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string_view>
 
 namespace vellark {
@@ -17,6 +18,10 @@ namespace CharacterClass {
 [[nodiscard]] bool isSymbol(char32_t scalar);        ///< general categories Sm Sc Sk So
 [[nodiscard]] bool isControl(char32_t scalar);       ///< general categories Cc and Cf
 [[nodiscard]] bool isMark(char32_t scalar);          ///< general categories Mn Mc Me
+
+/// Whether a word ends right before the byte, which begins a scalar: marks and format characters count to what stands
+/// before them. Where it does not, "\b" holds in front of a letter.
+[[nodiscard]] bool isBehindWord(std::string_view text, std::size_t byte);
 
 [[nodiscard]] bool isWhitespace(std::string_view character);
 [[nodiscard]] bool isNewline(std::string_view character);

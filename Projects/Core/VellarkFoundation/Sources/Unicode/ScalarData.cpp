@@ -82,17 +82,23 @@ Break readBreak(UChar32 scalar) {
     }
 }
 
+bool isWord(UChar32 scalar, std::uint32_t category) {
+    constexpr std::uint32_t categories = U_GC_M_MASK | U_GC_ND_MASK | U_GC_PC_MASK;
+    return u_isUAlphabetic(scalar) || (category & categories) != 0 || scalar == 0x200C || scalar == 0x200D;
+}
+
 Word readWord(UChar32 scalar) {
     const auto when = [](bool holds, Word bit) { return holds ? bit : Word{0}; };
     const auto category = U_MASK(u_charType(scalar));
-    return static_cast<Word>(static_cast<Word>(readBreak(scalar)) | when(u_isUWhiteSpace(scalar), whitespace) |
-                             when(u_isUAlphabetic(scalar), letter) |
-                             when(u_getIntPropertyValue(scalar, UCHAR_NUMERIC_TYPE) != U_NT_NONE, number) |
-                             when(u_isUUppercase(scalar), uppercase) | when(u_isULowercase(scalar), lowercase) |
-                             when((category & U_GC_P_MASK) != 0, punctuation) |
-                             when((category & U_GC_ND_MASK) != 0, decimalDigit) |
-                             when((category & (U_GC_CC_MASK | U_GC_CF_MASK)) != 0, control) |
-                             when((category & U_GC_M_MASK) != 0, mark) | when((category & U_GC_S_MASK) != 0, symbol));
+    return static_cast<Word>(
+        static_cast<Word>(readBreak(scalar)) | when(u_isUWhiteSpace(scalar), whitespace) |
+        when(u_isUAlphabetic(scalar), letter) |
+        when(u_getIntPropertyValue(scalar, UCHAR_NUMERIC_TYPE) != U_NT_NONE, number) |
+        when(u_isUUppercase(scalar), uppercase) | when(u_isULowercase(scalar), lowercase) |
+        when((category & U_GC_P_MASK) != 0, punctuation) | when((category & U_GC_ND_MASK) != 0, decimalDigit) |
+        when((category & (U_GC_CC_MASK | U_GC_CF_MASK)) != 0, control) | when((category & U_GC_M_MASK) != 0, mark) |
+        when((category & U_GC_S_MASK) != 0, symbol) | when(isWord(scalar, category), word) |
+        when((category & U_GC_CF_MASK) != 0 || u_hasBinaryProperty(scalar, UCHAR_GRAPHEME_EXTEND), hanging));
 }
 
 const Block& readBlock(std::size_t index) {

@@ -31,7 +31,7 @@ enum class Break : std::uint8_t {
 };
 
 /// Bits of a scalar's properties; the lowest five hold its Break.
-using Word = std::uint16_t;
+using Word = std::uint32_t;
 inline constexpr Word breakMask = 0x1F;
 inline constexpr Word whitespace = 1 << 5;     ///< White_Space
 inline constexpr Word letter = 1 << 6;         ///< Alphabetic
@@ -43,6 +43,8 @@ inline constexpr Word decimalDigit = 1 << 11;  ///< general category Nd
 inline constexpr Word control = 1 << 12;       ///< general categories Cc and Cf
 inline constexpr Word mark = 1 << 13;          ///< general categories M*
 inline constexpr Word symbol = 1 << 14;        ///< general categories S*
+inline constexpr Word word = 1 << 15;          ///< what "\w" matches in expressions
+inline constexpr Word hanging = 1 << 16;       ///< Grapheme_Extend, or general category Cf: "\b" looks past it
 
 /// The properties of any scalar; of a value above U+10FFFF those of U+FFFD. Safe from any thread.
 [[nodiscard]] Word of(char32_t scalar);

@@ -2,6 +2,7 @@
 #include <VellarkDomain/Conversations/RichText/ConversationRichText.hpp>
 #include <VellarkDomain/Conversations/RichText/RichTextLine.hpp>
 #include <VellarkDomain/Conversations/RichText/RichTextParser.hpp>
+#include <VellarkFoundation/Text/LineBreaks.hpp>
 #include <VellarkFoundation/Text/Whitespace.hpp>
 
 #include <type_traits>
@@ -66,7 +67,7 @@ ConversationRichText::ConversationRichText(std::string_view text, bool shortensP
     if (RichTextLine::beginsWith(trimmed, '{') || RichTextLine::beginsWith(trimmed, '[')) {
         if (auto code = CodeHighlighter::json(trimmed)) blocks.push_back({std::move(*code)});
     }
-    if (blocks.empty()) blocks = RichTextParser::blocks(RichTextLine::split(text));
+    if (blocks.empty()) blocks = RichTextParser::blocks(LineBreaks::split(text));
     if (shortensPaths) {
         for (Block& block : blocks)
             block = shorteningPaths(std::move(block));

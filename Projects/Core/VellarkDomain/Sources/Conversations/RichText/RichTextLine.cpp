@@ -1,4 +1,5 @@
 #include <VellarkDomain/Conversations/RichText/RichTextLine.hpp>
+#include <VellarkFoundation/Text/LineBreaks.hpp>
 #include <VellarkFoundation/Text/UTF8.hpp>
 #include <VellarkFoundation/Text/Whitespace.hpp>
 #include <VellarkFoundation/Unicode/CharacterClass.hpp>
@@ -6,7 +7,6 @@
 #include <VellarkFoundation/Unicode/UnicodeCase.hpp>
 
 #include <algorithm>
-#include <array>
 #include <cstring>
 
 namespace vellark::RichTextLine {
@@ -67,41 +67,7 @@ bool hasCharacter(std::string_view text, char character) {
     return false;
 }
 
-// Bytes of the line end at the position; 0 when none stands there.
-std::size_t lineEndLength(std::string_view text, std::size_t position) {
-    const auto byte = static_cast<unsigned char>(text[position]);
-    if (byte == '\r') return position + 1 < text.size() && text[position + 1] == '\n' ? 2 : 1;
-    if (byte >= 0x0A && byte <= 0x0C) return 1;
-    const std::string_view rest = text.substr(position);
-    if (byte == 0xC2) return rest.starts_with("\xC2\x85") ? 2 : 0;
-    if (byte == 0xE2) return rest.starts_with("\xE2\x80\xA8") || rest.starts_with("\xE2\x80\xA9") ? 3 : 0;
-    return 0;
-}
-
-constexpr auto mayEndLine = [] {
-    std::array<bool, 256> table{};
-    for (const int byte : {0x0A, 0x0B, 0x0C, 0x0D, 0xC2, 0xE2})
-        table[static_cast<std::size_t>(byte)] = true;
-    return table;
-}();
-
 }  // namespace
-
-std::vector<std::string_view> split(std::string_view text) {
-    std::vector<std::string_view> lines;
-    std::size_t start = 0;
-    for (std::size_t position = 0; position < text.size();) {
-        const bool mayEnd = mayEndLine[static_cast<unsigned char>(text[position])];
-        const std::size_t length = mayEnd ? lineEndLength(text, position) : 0;
-        if (length > 0) {
-            lines.push_back(text.substr(start, position - start));
-            start = position + length;
-        }
-        position += std::max<std::size_t>(length, 1);
-    }
-    lines.push_back(text.substr(start));
-    return lines;
-}
 
 std::string_view content(std::string_view line) {
     std::size_t start = 0;
@@ -299,7 +265,7 @@ std::optional<std::size_t> stringEnd(std::string_view text, std::size_t position
         if (current == '\n') return std::nullopt;
         if (current == '\\') {
             ++position;
-            if (position >= text.size() || lineEndLength(text, position) > 0) return std::nullopt;
+            if (position >= text.size() || LineBreaks::length(text, position) > 0) return std::nullopt;
             position += UTF8::decode(text, position).byteCount;
         } else {
             ++position;

@@ -15,9 +15,6 @@ namespace vellark {
 /// with a combining mark is no number sign.
 namespace RichTextLine {
 
-/// The lines of a text. U+000A to U+000D, U+0085, U+2028 and U+2029 end one, CR LF together; empty lines are lines.
-[[nodiscard]] std::vector<std::string_view> split(std::string_view text);
-
 /// The line without the white space at its start.
 [[nodiscard]] std::string_view content(std::string_view line);
 
