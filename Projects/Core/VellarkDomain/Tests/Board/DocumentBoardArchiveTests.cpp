@@ -4,7 +4,9 @@
 
 #include <functional>
 #include <limits>
+#include <optional>
 #include <string>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -38,213 +40,104 @@ Archive sample() {
     return {.boards = {board}};
 }
 
+// A change of the archive, or of its one board.
+struct Change {
+    template <class Function>
+    Change(Function function)
+        : apply([function](Archive& archive) {
+              if constexpr (std::is_invocable_v<Function, Archive&>)
+                  function(archive);
+              else
+                  function(archive.boards[0]);
+          }) {}
+
+    std::function<void(Archive&)> apply;
+};
+
 struct Row {
     const char* name;
-    std::function<void(Archive& archive, DocumentBoard& board)> change;
+    Change change;
     std::optional<Error> error;
 };
 
 void expectErrors(const std::vector<Row>& rows) {
     for (const Row& row : rows) {
         Archive archive = sample();
-        DocumentBoard& board = archive.boards[0];
-        row.change(archive, board);
+        row.change.apply(archive);
         EXPECT_EQ(archive.firstViolation(), row.error) << row.name;
         const auto validated = archive.validated();
         ASSERT_EQ(validated.has_value(), !row.error) << row.name;
-        if (validated) EXPECT_EQ(*validated, archive) << row.name;
+        if (validated) {
+            EXPECT_EQ(*validated, archive) << row.name;
+        }
     }
 }
 
-#define CHANGE [](Archive & archive [[maybe_unused]], DocumentBoard & board [[maybe_unused]])
-
 TEST(DocumentBoardArchiveTests, archivesAndBoards) {
     expectErrors({
-        {"sample", CHANGE {}, {}},
-        {"empty", CHANGE { archive = Archive::empty();
-}
-, {}
-}  // namespace
-, {"other schema, empty", CHANGE{archive = {.schemaVersion = 2, .boards = {}};
-}  // namespace vellark
-, Error::unsupportedSchema
-}
-, {"schema 0", CHANGE{archive.schemaVersion = 0;
-}
-, Error::unsupportedSchema
-}
-, {"empty identifier", CHANGE{board.id.clear();
-}
-, Error::invalidID
-}
-, {"128 bytes of identifier", CHANGE{board.id = std::string(128, '-');
-}
-, {}
-}
-, {"129 bytes of identifier", CHANGE{board.id = std::string(129, 'Z');
-}
-, Error::invalidID
-}
-, {"letter outside ASCII", CHANGE{board.id = "caf\u00E9";
-}
-, Error::invalidID
-}
-, {"NUL", CHANGE{board.id = std::string("a\0", 2);
-}
-, Error::invalidID
-}
-, {"a board twice", CHANGE{archive.boards.push_back(sample().boards[0]);
-}
-, Error::duplicateID
-}
-, {"no title", CHANGE{board.title.clear();
-}
-, Error::invalidBoard
-}
-, {"blank title", CHANGE{board.title = " \t\u3000\u200B\u2028";
-}
-, Error::invalidBoard
-}
-, {"a joiner is no blank", CHANGE{board.title = "\uFEFF";
-}
-, {}
-}
-, {"128 families", CHANGE{board.title = repeated(family, 128);
-}
-, {}
-}
-, {"129 families", CHANGE{board.title = repeated(family, 129);
-}
-, Error::invalidBoard
-}
-, {"128 flags", CHANGE{board.title = repeated(flag, 128);
-}
-, {}
-}
-, {"129 flags", CHANGE{board.title = repeated(flag, 129);
-}
-, Error::invalidBoard
-}
-, {"128 syllables", CHANGE{board.title = repeated(syllable, 128);
-}
-, {}
-}
-, {"129 syllables", CHANGE{board.title = repeated(syllable, 129);
-}
-, Error::invalidBoard
-}
-, {"129 letters", CHANGE{board.title = repeated("thirteenchars", 10).substr(0, 129);
-}
-, Error::invalidBoard
-}
-, {"tab in a title", CHANGE{board.title = "a\tb";
-}
-, {}
-}
-, {"line feed in a title", CHANGE{board.title = "a\nb";
-}
-, Error::invalidBoard
-}
-, {"infinite moment", CHANGE{board.updatedAt = {-infinity};
-}
-, Error::invalidBoard
-}
-, {"no moment", CHANGE{board.updatedAt = {notANumber};
-}
-, Error::invalidBoard
-}
-,
-});
+        {"sample", [](Archive&) {}, {}},
+        {"empty", [](Archive& archive) { archive = Archive::empty(); }, {}}  // namespace
+        ,
+        {"other schema, empty",
+         [](Archive& archive) { archive = {.schemaVersion = 2, .boards = {}}; }  // namespace vellark
+         ,
+         Error::unsupportedSchema},
+        {"schema 0", [](Archive& archive) { archive.schemaVersion = 0; }, Error::unsupportedSchema},
+        {"empty identifier", [](DocumentBoard& board) { board.id.clear(); }, Error::invalidID},
+        {"128 bytes of identifier", [](DocumentBoard& board) { board.id = std::string(128, '-'); }, {}},
+        {"129 bytes of identifier", [](DocumentBoard& board) { board.id = std::string(129, 'Z'); }, Error::invalidID},
+        {"letter outside ASCII", [](DocumentBoard& board) { board.id = "caf\u00E9"; }, Error::invalidID},
+        {"NUL", [](DocumentBoard& board) { board.id = std::string("a\0", 2); }, Error::invalidID},
+        {"a board twice", [](Archive& archive) { archive.boards.push_back(sample().boards[0]); }, Error::duplicateID},
+        {"no title", [](DocumentBoard& board) { board.title.clear(); }, Error::invalidBoard},
+        {"blank title", [](DocumentBoard& board) { board.title = " \t\u3000\u200B\u2028"; }, Error::invalidBoard},
+        {"a joiner is no blank", [](DocumentBoard& board) { board.title = "\uFEFF"; }, {}},
+        {"128 families", [](DocumentBoard& board) { board.title = repeated(family, 128); }, {}},
+        {"129 families", [](DocumentBoard& board) { board.title = repeated(family, 129); }, Error::invalidBoard},
+        {"128 flags", [](DocumentBoard& board) { board.title = repeated(flag, 128); }, {}},
+        {"129 flags", [](DocumentBoard& board) { board.title = repeated(flag, 129); }, Error::invalidBoard},
+        {"128 syllables", [](DocumentBoard& board) { board.title = repeated(syllable, 128); }, {}},
+        {"129 syllables", [](DocumentBoard& board) { board.title = repeated(syllable, 129); }, Error::invalidBoard},
+        {"129 letters", [](DocumentBoard& board) { board.title = repeated("thirteenchars", 10).substr(0, 129); },
+         Error::invalidBoard},
+        {"tab in a title", [](DocumentBoard& board) { board.title = "a\tb"; }, {}},
+        {"line feed in a title", [](DocumentBoard& board) { board.title = "a\nb"; }, Error::invalidBoard},
+        {"infinite moment", [](DocumentBoard& board) { board.updatedAt = {-infinity}; }, Error::invalidBoard},
+        {"no moment", [](DocumentBoard& board) { board.updatedAt = {notANumber}; }, Error::invalidBoard},
+    });
 }
 
 TEST(DocumentBoardArchiveTests, nodes) {
     expectErrors({
-        {"identifier with a blank", CHANGE { board.nodes[1].id = "b b";
-}
-, Error::invalidID
-}
-, {"a node twice", CHANGE{board.nodes[1].id = "a";
-}
-, Error::duplicateID
-}
-, {"empty document", CHANGE{board.nodes[0].documentID = "";
-}
-, Error::invalidID
-}
-, {"document with a slash", CHANGE{board.nodes[0].documentID = "a/b";
-}
-, Error::invalidID
-}
-, {"blank title with a document", CHANGE{board.nodes[0].title = "  ";
-}
-, {}
-}
-, {"blank title without one", CHANGE{board.nodes[1].title = "  ";
-}
-, Error::invalidNode
-}
-, {"256 characters", CHANGE{board.nodes[0].title = repeated(family, 256);
-}
-, {}
-}
-, {"257 characters", CHANGE{board.nodes[0].title = repeated(syllable, 257);
-}
-, Error::invalidNode
-}
-, {"escape in a title", CHANGE{board.nodes[0].title = "a\x1B";
-}
-, Error::invalidNode
-}
-, {"delete in a title", CHANGE{board.nodes[0].title = "a\x7F";
-}
-, Error::invalidNode
-}
-, {"C1 control in a title", CHANGE{board.nodes[0].title = "a\u0085";
-}
-, {}
-}
-, {"8,192 characters", CHANGE{board.nodes[0].note = repeated(flag, 8192);
-}
-, {}
-}
-, {"8,193 characters", CHANGE{board.nodes[0].note = repeated("e\u0301", 8193);
-}
-, Error::invalidNode
-}
-, {"line feed and tab in a note", CHANGE{board.nodes[0].note = "\n\ta\n";
-}
-, {}
-}
-, {"CR LF in a note", CHANGE{board.nodes[0].note = "a\r\nb";
-}
-, Error::invalidNode
-}
-, {"greatest coordinate", CHANGE{board.nodes[0].position = {100000.0, -100000.0, 100000.0};
-}
-, {}
-}
-, {"x beyond", CHANGE{board.nodes[0].position.x = 100000.5;
-}
-, Error::invalidPosition
-}
-, {"y beyond", CHANGE{board.nodes[0].position.y = -100000.5;
-}
-, Error::invalidPosition
-}
-, {"z infinite", CHANGE{board.nodes[0].position.z = infinity;
-}
-, Error::invalidPosition
-}
-, {"x no number", CHANGE{board.nodes[0].position.x = notANumber;
-}
-, Error::invalidPosition
-}
-, {"y negative infinite", CHANGE{board.nodes[0].position.y = -infinity;
-}
-, Error::invalidPosition
-}
-,
-});
+        {"identifier with a blank", [](DocumentBoard& board) { board.nodes[1].id = "b b"; }, Error::invalidID},
+        {"a node twice", [](DocumentBoard& board) { board.nodes[1].id = "a"; }, Error::duplicateID},
+        {"empty document", [](DocumentBoard& board) { board.nodes[0].documentID = ""; }, Error::invalidID},
+        {"document with a slash", [](DocumentBoard& board) { board.nodes[0].documentID = "a/b"; }, Error::invalidID},
+        {"blank title with a document", [](DocumentBoard& board) { board.nodes[0].title = "  "; }, {}},
+        {"blank title without one", [](DocumentBoard& board) { board.nodes[1].title = "  "; }, Error::invalidNode},
+        {"256 characters", [](DocumentBoard& board) { board.nodes[0].title = repeated(family, 256); }, {}},
+        {"257 characters", [](DocumentBoard& board) { board.nodes[0].title = repeated(syllable, 257); },
+         Error::invalidNode},
+        {"escape in a title", [](DocumentBoard& board) { board.nodes[0].title = "a\x1B"; }, Error::invalidNode},
+        {"delete in a title", [](DocumentBoard& board) { board.nodes[0].title = "a\x7F"; }, Error::invalidNode},
+        {"C1 control in a title", [](DocumentBoard& board) { board.nodes[0].title = "a\u0085"; }, {}},
+        {"8,192 characters", [](DocumentBoard& board) { board.nodes[0].note = repeated(flag, 8192); }, {}},
+        {"8,193 characters", [](DocumentBoard& board) { board.nodes[0].note = repeated("e\u0301", 8193); },
+         Error::invalidNode},
+        {"line feed and tab in a note", [](DocumentBoard& board) { board.nodes[0].note = "\n\ta\n"; }, {}},
+        {"CR LF in a note", [](DocumentBoard& board) { board.nodes[0].note = "a\r\nb"; }, Error::invalidNode},
+        {"greatest coordinate",
+         [](DocumentBoard& board) {
+             board.nodes[0].position = {100000.0, -100000.0, 100000.0};
+         },
+         {}},
+        {"x beyond", [](DocumentBoard& board) { board.nodes[0].position.x = 100000.5; }, Error::invalidPosition},
+        {"y beyond", [](DocumentBoard& board) { board.nodes[0].position.y = -100000.5; }, Error::invalidPosition},
+        {"z infinite", [](DocumentBoard& board) { board.nodes[0].position.z = infinity; }, Error::invalidPosition},
+        {"x no number", [](DocumentBoard& board) { board.nodes[0].position.x = notANumber; }, Error::invalidPosition},
+        {"y negative infinite", [](DocumentBoard& board) { board.nodes[0].position.y = -infinity; },
+         Error::invalidPosition},
+    });
 }
 
 TEST(DocumentBoardArchiveTests, controlsAreSeenAtEveryPlace) {
@@ -274,150 +167,126 @@ TEST(DocumentBoardArchiveTests, everyByteOfAnIdentifier) {
 
 TEST(DocumentBoardArchiveTests, edges) {
     expectErrors({
-        {"bad identifier", CHANGE { board.edges[0].id = "?";
-}
-, Error::invalidID
-}
-, {"bad source", CHANGE{board.edges[0].fromNodeID = "";
-}
-, Error::invalidID
-}
-, {"bad target", CHANGE{board.edges[0].toNodeID = "b\n";
-}
-, Error::invalidID
-}
-, {"an edge twice", CHANGE{board.edges.push_back(board.edges[0]);
-}
-, Error::duplicateID
-}
-, {"empty label", CHANGE{board.edges[0].label.clear();
-}
-, {}
-}
-, {"256 characters", CHANGE{board.edges[0].label = repeated(flag, 256);
-}
-, {}
-}
-, {"257 characters", CHANGE{board.edges[0].label = repeated(flag, 257);
-}
-, Error::invalidEdge
-}
-, {"line feed", CHANGE{board.edges[0].label = "\n";
-}
-, Error::invalidEdge
-}
-, {"loop", CHANGE{board.edges[0].toNodeID = "a";
-}
-, Error::invalidEdge
-}
-, {"loop nowhere", CHANGE{board.edges[0].fromNodeID = board.edges[0].toNodeID = "x";
-}
-, Error::invalidEdge
-}
-, {"unknown source", CHANGE{board.edges[0].fromNodeID = "x";
-}
-, Error::invalidEdge
-}
-, {"unknown target", CHANGE{board.edges[0].toNodeID = "x";
-}
-, Error::invalidEdge
-}
-, {"node of another board", CHANGE{archive.boards.push_back({.id = "other", .title = "Other"});
-archive.boards[1].edges = archive.boards[0].edges;
-}
-, Error::invalidEdge
-}
-, {"the same identifiers on another board", CHANGE{archive.boards.push_back(sample().boards[0]);
-archive.boards[1].id = "other";
-}
-, {}
-}
-,
-});
+        {"bad identifier", [](DocumentBoard& board) { board.edges[0].id = "?"; }, Error::invalidID},
+        {"bad source", [](DocumentBoard& board) { board.edges[0].fromNodeID = ""; }, Error::invalidID},
+        {"bad target", [](DocumentBoard& board) { board.edges[0].toNodeID = "b\n"; }, Error::invalidID},
+        {"an edge twice", [](DocumentBoard& board) { board.edges.push_back(board.edges[0]); }, Error::duplicateID},
+        {"empty label", [](DocumentBoard& board) { board.edges[0].label.clear(); }, {}},
+        {"256 characters", [](DocumentBoard& board) { board.edges[0].label = repeated(flag, 256); }, {}},
+        {"257 characters", [](DocumentBoard& board) { board.edges[0].label = repeated(flag, 257); },
+         Error::invalidEdge},
+        {"line feed", [](DocumentBoard& board) { board.edges[0].label = "\n"; }, Error::invalidEdge},
+        {"loop", [](DocumentBoard& board) { board.edges[0].toNodeID = "a"; }, Error::invalidEdge},
+        {"loop nowhere", [](DocumentBoard& board) { board.edges[0].fromNodeID = board.edges[0].toNodeID = "x"; },
+         Error::invalidEdge},
+        {"unknown source", [](DocumentBoard& board) { board.edges[0].fromNodeID = "x"; }, Error::invalidEdge},
+        {"unknown target", [](DocumentBoard& board) { board.edges[0].toNodeID = "x"; }, Error::invalidEdge},
+        {"node of another board",
+         [](Archive& archive) {
+             archive.boards.push_back({.id = "other", .title = "Other"});
+             archive.boards[1].edges = archive.boards[0].edges;
+         },
+         Error::invalidEdge},
+        {"the same identifiers on another board",
+         [](Archive& archive) {
+             archive.boards.push_back(sample().boards[0]);
+             archive.boards[1].id = "other";
+         },
+         {}},
+    });
 }
 
 // Two faults at once: the one that is looked for first is named.
 TEST(DocumentBoardArchiveTests, theFirstFaultIsNamed) {
     expectErrors({
-        {"schema before boards", CHANGE { archive.schemaVersion = 2; board.id = "?";
+        {"schema before boards",
+         [](Archive& archive) {
+             archive.schemaVersion = 2;
+             archive.boards[0].id = "?";
+         },
+         Error::unsupportedSchema},
+        {"number of boards before boards", [](Archive& archive) { archive.boards.resize(101); }, Error::tooManyBoards},
+        {"identifier before title",
+         [](DocumentBoard& board) {
+             board.id = "?";
+             board.title = "";
+         },
+         Error::invalidID},
+        {"title before nodes",
+         [](DocumentBoard& board) {
+             board.title = "";
+             board.nodes.resize(2001);
+         },
+         Error::invalidBoard},
+        {"nodes before edges",
+         [](DocumentBoard& board) {
+             board.nodes.resize(2001);
+             board.edges.resize(8001);
+         },
+         Error::tooManyNodes},
+        {"number of edges before nodes",
+         [](DocumentBoard& board) {
+             board.nodes[0].id = "?";
+             board.edges.resize(8001);
+         },
+         Error::tooManyEdges},
+        {"an earlier node's last field before a later one's first",
+         [](DocumentBoard& board) {
+             board.nodes[0].date = "x";
+             board.nodes[1].id = "?";
+         },
+         Error::invalidDate},
+        {"document before title",
+         [](DocumentBoard& board) {
+             board.nodes[0].documentID = "?";
+             board.nodes[0].title = "\n";
+         },
+         Error::invalidID},
+        {"twice before document",
+         [](DocumentBoard& board) {
+             std::swap(board.nodes[0], board.nodes[1]);
+             board.nodes[1].id = "b";
+             board.nodes[1].documentID = "?";
+         },
+         Error::duplicateID},
+        {"note before place",
+         [](DocumentBoard& board) {
+             board.nodes[0].note = "\r";
+             board.nodes[0].position.x = infinity;
+         },
+         Error::invalidNode},
+        {"place before date",
+         [](DocumentBoard& board) {
+             board.nodes[0].date = "x";
+             board.nodes[0].position.x = infinity;
+         },
+         Error::invalidPosition},
+        {"nodes before edges' identifiers",
+         [](DocumentBoard& board) {
+             board.nodes[1].title = "";
+             board.edges[0].id = "?";
+         },
+         Error::invalidNode},
+        {"target's identifier before twice",
+         [](DocumentBoard& board) {
+             board.edges.push_back(board.edges[0]);
+             board.edges[1].toNodeID = "?";
+         },
+         Error::invalidID},
+        {"twice before label",
+         [](DocumentBoard& board) {
+             board.edges.push_back(board.edges[0]);
+             board.edges[1].label = "\n";
+         },
+         Error::duplicateID},
+        {"an earlier board's edge before a later board",
+         [](Archive& archive) {
+             archive.boards[0].edges[0].label = "\n";
+             archive.boards.push_back({.id = "?"});
+         },
+         Error::invalidEdge},
+    });
 }
-, Error::unsupportedSchema
-}
-, {"number of boards before boards", CHANGE{archive.boards.resize(101);
-}
-, Error::tooManyBoards
-}
-, {"identifier before title", CHANGE{board.id = "?";
-board.title = "";
-}
-, Error::invalidID
-}
-, {"title before nodes", CHANGE{board.title = "";
-board.nodes.resize(2001);
-}
-, Error::invalidBoard
-}
-, {"nodes before edges", CHANGE{board.nodes.resize(2001);
-board.edges.resize(8001);
-}
-, Error::tooManyNodes
-}
-, {"number of edges before nodes", CHANGE{board.nodes[0].id = "?";
-board.edges.resize(8001);
-}
-, Error::tooManyEdges
-}
-, {"an earlier node's last field before a later one's first", CHANGE{board.nodes[0].date = "x";
-board.nodes[1].id = "?";
-}
-, Error::invalidDate
-}
-, {"document before title", CHANGE{board.nodes[0].documentID = "?";
-board.nodes[0].title = "\n";
-}
-, Error::invalidID
-}
-, {"twice before document", CHANGE{std::swap(board.nodes[0], board.nodes[1]);
-board.nodes[1].id = "b";
-board.nodes[1].documentID = "?";
-}
-, Error::duplicateID
-}
-, {"note before place", CHANGE{board.nodes[0].note = "\r";
-board.nodes[0].position.x = infinity;
-}
-, Error::invalidNode
-}
-, {"place before date", CHANGE{board.nodes[0].date = "x";
-board.nodes[0].position.x = infinity;
-}
-, Error::invalidPosition
-}
-, {"nodes before edges' identifiers", CHANGE{board.nodes[1].title = "";
-board.edges[0].id = "?";
-}
-, Error::invalidNode
-}
-, {"target's identifier before twice", CHANGE{board.edges.push_back(board.edges[0]);
-board.edges[1].toNodeID = "?";
-}
-, Error::invalidID
-}
-, {"twice before label", CHANGE{board.edges.push_back(board.edges[0]);
-board.edges[1].label = "\n";
-}
-, Error::duplicateID
-}
-, {"an earlier board's edge before a later board", CHANGE{board.edges[0].label = "\n";
-archive.boards.push_back({.id = "?"});
-}
-, Error::invalidEdge
-}
-,
-});
-}
-
-#undef CHANGE
 
 TEST(DocumentBoardArchiveTests, countsAreLimited) {
     Archive archive;
