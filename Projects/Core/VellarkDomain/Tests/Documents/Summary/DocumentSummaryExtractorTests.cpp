@@ -161,7 +161,9 @@ TEST(DocumentSummaryExtractor, readsCodeOnlyWhenItIsText) {
     const std::string text = "one\r\ntwo\n\nthree";
     for (const char* language : {"plaintext", "rst", "adoc"})
         EXPECT_EQ(Extractor::extract(text, DocumentContentFormat::code(language)).summary, "one\r\ntwo") << language;
-    for (const auto& format : {DocumentContentFormat::code("json"), DocumentContentFormat::code(std::nullopt)})
+    const DocumentContentFormat others[] = {DocumentContentFormat::code("json"),
+                                            DocumentContentFormat::code(std::nullopt)};
+    for (const auto& format : others)
         EXPECT_EQ(Extractor::extract(text, format), (DocumentSummaryExtract{.body = text}));
     EXPECT_EQ(digest("a\xFF").summary, "a\uFFFD");
 }
