@@ -268,12 +268,13 @@ BENCHMARK(feedAndTasks)->Name("ours/feed-and-tasks")->Unit(benchmark::kMilliseco
 BENCHMARK(feedAlone)->Name("ours/feed")->Unit(benchmark::kMillisecond);
 BENCHMARK(stableSort)->Name("peer/stable-sort")->Unit(benchmark::kMillisecond);
 BENCHMARK(plainSort)->Name("peer/sort")->Unit(benchmark::kMillisecond);
-BENCHMARK(layOut)->Name("ours/layout")->Arg(10'000)->Arg(20'000);
+BENCHMARK(layOut)->Name("ours/layout")->Arg(5'000)->Arg(10'000);
 
 int main(int argumentCount, char** arguments) {
     checkSample();
     for (const List& list : lists) {
         benchmark::RegisterBenchmark((std::string("ours/group/") + list.name).c_str(), group, list)
+            ->Arg(5'000)
             ->Arg(10'000)
             ->Arg(20'000)
             ->Unit(benchmark::kMillisecond);

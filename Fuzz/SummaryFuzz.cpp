@@ -14,7 +14,9 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string_view text = fuzz::text(data + 1, size - 1);
     const auto digest = DocumentSummaryExtractor::extract(text, format, (data[0] & 4) == 0);
     // A cut keeps its limit and adds an ellipsis; it moves by at most a number's rest to keep that number whole.
-    const auto fits = [](std::string_view part, std::size_t limit) { return !GraphemeBreak::exceeds(part, limit + 25); };
+    const auto fits = [](std::string_view part, std::size_t limit) {
+        return !GraphemeBreak::exceeds(part, limit + 25);
+    };
     fuzz::require(fits(digest.summary, DocumentSummaryExtractor::summaryLength), "the summary is short");
     fuzz::require(digest.headings.size() <= 3 && digest.items.size() <= 3, "few headings and items");
     fuzz::require(digest.facts.size() <= 2, "at most two facts");

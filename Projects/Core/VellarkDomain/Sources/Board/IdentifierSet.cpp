@@ -42,7 +42,7 @@ std::uint64_t hashOf(std::string_view text) {
         hash = folded(words[0] ^ key.first ^ hash, words[1] ^ key.second);
     };
     if (text.size() < sizeof words) {
-        take(0, text.size());
+        if (!text.empty()) take(0, text.size());
         return hash;
     }
     const std::size_t last = text.size() - sizeof words;

@@ -128,7 +128,7 @@ TEST(DocumentBoardRecordTests, whatNoFileHoldsIsNotWritten) {
 }
 
 TEST(IdentifierSetTests, actsAsASet) {
-    const auto texts = testing::randomTexts(11, 4'000, 30, {"a", "b", "-", "0000000000000000", "\0"});
+    const auto texts = testing::randomTexts(11, 4'000, 30, {"a", "b", "-", "0000000000000000", std::string(1, '\0')});
     IdentifierSet set;
     for (int round = 0; round < 2; ++round) {
         set.reset(texts.size());

@@ -140,10 +140,10 @@ TEST(DocumentFeedbackAnchorTests, anchorsAreHexadecimalNumbers) {
         {anchor + "0", false},
         {std::string("\0", 1) + anchor, false},
     };
-    for (const auto& [text_, isFound] : rows) {
+    for (const auto& [written, isFound] : rows) {
         DocumentFeedbackNote note = noteOn(text, 1, 1);
-        note.anchor = text_;
-        EXPECT_EQ(relocate(note, "new", text).isStale, !isFound) << text_;
+        note.anchor = written;
+        EXPECT_EQ(relocate(note, "new", text).isStale, !isFound) << written;
     }
 }
 

@@ -74,6 +74,27 @@ std::optional<CalendarDay> Calendar::day(Date date) const {
     return floorDivision(static_cast<std::int64_t>(second) + zone_->offset(second), secondsPerDay);
 }
 
+std::optional<Calendar::Reading> Calendar::reading(Date date) const {
+    const double second = std::floor(date.secondsSince1970);
+    if (!(std::fabs(second) <= farthest)) return std::nullopt;
+    const std::int64_t local = static_cast<std::int64_t>(second) + zone_->offset(second);
+    Reading reading{.day = floorDivision(local, secondsPerDay)};
+    reading.minute = static_cast<int>((local - reading.day * secondsPerDay) / secondsPerMinute);
+    // Years begin in March here, so that the leap day is the last one; 400 of them have a whole number of days.
+    constexpr std::int64_t daysPerEra = 146'097;
+    constexpr CalendarDay firstOfEra = -719'468;  // March 1 of the year 0
+    const std::int64_t sinceFirst = reading.day - firstOfEra;
+    const std::int64_t era = floorDivision(sinceFirst, daysPerEra);
+    const std::int64_t dayOfEra = sinceFirst - era * daysPerEra;
+    const std::int64_t yearOfEra = (dayOfEra - dayOfEra / 1460 + dayOfEra / 36'524 - dayOfEra / 146'096) / 365;
+    const std::int64_t dayOfYear = dayOfEra - (365 * yearOfEra + yearOfEra / 4 - yearOfEra / 100);
+    const std::int64_t monthFromMarch = (5 * dayOfYear + 2) / 153;
+    reading.dayOfMonth = static_cast<int>(dayOfYear - (153 * monthFromMarch + 2) / 5 + 1);
+    reading.month = static_cast<int>(monthFromMarch < 10 ? monthFromMarch + 3 : monthFromMarch - 9);
+    reading.year = yearOfEra + era * 400 + (reading.month <= 2 ? 1 : 0);
+    return reading;
+}
+
 std::optional<Date> Calendar::earliest(CalendarDay day, std::int64_t minute) const {
     constexpr auto farthestDay = static_cast<CalendarDay>(farthest) / secondsPerDay;
     if (day < -farthestDay || day > farthestDay) return std::nullopt;

@@ -21,6 +21,15 @@ using CalendarDay = std::int64_t;
 ///     seoul.earliest(0, 30)          Date{-30'600}: half past midnight of that day
 class Calendar {
 public:
+    /// What the clock and the calendar on the wall show.
+    struct Reading {
+        CalendarDay day = 0;
+        std::int64_t year = 1970;
+        int month = 1;       ///< 1 to 12
+        int dayOfMonth = 1;  ///< 1 to 31
+        int minute = 0;      ///< of the day, 0 to 1439
+    };
+
     /// Of an IANA name such as "Europe/Berlin"; a name that is unknown acts as UTC.
     explicit Calendar(std::string_view timeZone);
     Calendar(Calendar&&) noexcept;
@@ -29,6 +38,9 @@ public:
 
     /// The day that the clock shows. Nothing for a date that is not finite or is millions of years away.
     [[nodiscard]] std::optional<CalendarDay> day(Date date) const;
+
+    /// What the wall shows at the moment. Nothing where `day` gives nothing.
+    [[nodiscard]] std::optional<Reading> reading(Date date) const;
 
     /// The first moment at which the clock shows the minute of the day, or anything later: a time in a gap gives the
     /// gap's end, a repeated one its first pass. `minute` counts from midnight, 0 to 1439. Nothing for a day that is

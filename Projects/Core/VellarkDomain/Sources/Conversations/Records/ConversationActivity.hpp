@@ -4,6 +4,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace vellark {
@@ -27,6 +28,27 @@ struct ConversationActivity {
     /// Takes the other's work in: list entries that are lacking are added in the other's order, counts are added. A
     /// count beyond 64 bits is a mistake of the program and ends it.
     void merge(const ConversationActivity& other);
+
+    /// What a shell command line does, read word by word and without an eye for quotes: one command, and the commits,
+    /// pushes, pull requests, checks and test runs in its segments.
+    ///
+    ///     command("git add -A && git commit -m x").commits     1
+    [[nodiscard]] static ConversationActivity command(std::string_view line);
+
+    /// An edit of a file.
+    [[nodiscard]] static ConversationActivity edit(std::string_view path);
+
+    /// Any other use of a tool.
+    [[nodiscard]] static ConversationActivity tool();
+
+    /// The number in the first address of a pull request in a tool's output, ".../pull/42".
+    [[nodiscard]] static std::optional<std::int64_t> pullRequestNumber(std::string_view output);
+
+    /// Whether the command line creates a pull request.
+    [[nodiscard]] static bool createsPullRequest(std::string_view line);
+
+    /// The work in one line, in the user's language; empty when there is nothing to tell.
+    [[nodiscard]] std::string summary() const;
 
     bool operator==(const ConversationActivity&) const = default;
 };

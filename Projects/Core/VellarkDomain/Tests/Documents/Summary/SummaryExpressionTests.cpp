@@ -145,13 +145,13 @@ TEST(TotalLabel, neverRefusesALabel) {
         "\u017Fumme", "итого", "нийт",        "дүн",       "합계",     "총",        "금액",     "은",        "약",
         "(a)",        "（b）", ":",           "=",         "-",        "–",         "balance",  "x",         "9",
         "\n",         "[는",   "ge\u017Famt", "Endbetrag", "ยอดรวม"};
-    int labels = 0;
+    int labelCount = 0;
     for (const std::string& text : randomTexts(13, 60'000, 6, pieces)) {
         if (!containsMatch(label, text)) continue;
-        ++labels;
+        ++labelCount;
         ASSERT_TRUE(TotalLabel::mayEnd(text)) << text;
     }
-    EXPECT_GT(labels, 3'000);
+    EXPECT_GT(labelCount, 3'000);
     EXPECT_FALSE(TotalLabel::mayEnd("the total of x "));
     EXPECT_FALSE(TotalLabel::mayEnd("costs "));
 }
