@@ -6,8 +6,8 @@
 
 using namespace vellark;
 
-// Redacting twice gives what redacting once gave, and what a pattern still finds was blanked before. The letter in front
-// is there because a text without any letter or number is left alone.
+// Redacting twice gives what redacting once gave, and what a pattern still finds was blanked before. The letter in
+// front is there because a text without any letter or number is left alone.
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string text = "a " + std::string(fuzz::text(data, size));
     const std::string redacted = Redaction::redact(text);

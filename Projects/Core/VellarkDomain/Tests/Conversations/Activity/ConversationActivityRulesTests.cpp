@@ -19,7 +19,7 @@ struct CommandRow {
 TEST(ConversationActivityRulesTests, commandLines) {
     const CommandRow rows[] = {
         {"git add -A && git commit -m x", {.commits = 1}},
-        {"echo \"a; git push\" | cat", {.pushes = 1}},
+        {"git commit -m \"a; git push now\"", {.commits = 1, .pushes = 1}},
         {"git commit -m 'x'; git push\ngit push", {.commits = 1, .pushes = 2}},
         {"git -C /a commit", {}},
         {"git --no-pager commit", {.commits = 1}},
