@@ -37,16 +37,16 @@ constexpr auto rows = std::to_array<Base>({
      .weak = "ticket, stories",
      .markers = "as a user, so that i can, story points"},
     {.kind = meetingNotes,
-     .names = "meeting note, meeting minute, minutes, meeting agenda, agenda, meeting memo, meeting outcome, "
+     .names = "meeting note, meeting minute, minutes, agenda, meeting memo, meeting outcome, "
               "call transcript, discussion note",
      .cues = "meeting, standup, kickoff, call, one on one, sync, stand up",
-     .weak = "meeting",
+     .weak = "discussion",
      .markers = "attendees, action items, decisions made"},
     {.kind = report,
      .names = "report, status update, weekly update, progress update, project update, project status, "
               "executive summary, dashboard, white paper, whitepaper, business review, qbr",
      .cues = "weekly, monthly, quarterly, annual, progress, status, kpi, performance",
-     .weak = "update, status",
+     .weak = "update, snapshot",
      .markers = "key findings, executive summary, key takeaways"},
     {.kind = research,
      .names = "research, survey, research report, survey report, competitive analysis, competitor analysis, "
@@ -106,7 +106,7 @@ constexpr auto rows = std::to_array<Base>({
      .names = "bug report, bug, defect, defect report, issue report, crash report, error report, bug list, "
               "known issue, bug analysis",
      .cues = "bug, crash, error, defect",
-     .weak = "issue, error",
+     .weak = "issue, triage",
      .markers = "steps to reproduce, expected behavior, actual behavior"},
     {.kind = codeReview,
      .names = "code review, pr review, pull request, merge request, pr description, code audit, code walkthrough, "
@@ -145,8 +145,8 @@ constexpr auto rows = std::to_array<Base>({
      .weak = "",
      .markers = "output format, you are an expert, your task is"},
     {.kind = design,
-     .names = "mockup, wireframe, prototype, persona, moodboard, mood board, user flow, ui design, logo, "
-              "design brief, creative brief, sitemap, journey map, layout",
+     .names = "mockup, wireframe, prototype, persona, moodboard, mood board, user flow, ui design, "
+              "design brief, creative brief, sitemap, journey map, layout, logo design",
      .cues = "ui, ux, logo",
      .weak = "screen, flow",
      .markers = ""},
@@ -227,7 +227,7 @@ constexpr auto rows = std::to_array<Base>({
      .weak = "email, e mail, mail",
      .markers = "best regards, sincerely, kind regards"},
     {.kind = faq,
-     .names = "faq, frequently asked question, q a, q and a, qna, question, help article, support article, "
+     .names = "faq, q a, q and a, qna, question, help article, support article, "
               "questions and answers",
      .cues = "asked, support",
      .weak = "answers, help",
@@ -244,8 +244,8 @@ constexpr auto rows = std::to_array<Base>({
      .weak = "lines, scene",
      .markers = "fade in, cut to, voice over"},
     {.kind = essay,
-     .names = "essay, column, op ed, opinion piece, editorial, critique, book review, movie review, film review, "
-              "personal statement, memoir",
+     .names = "essay, op ed, opinion piece, editorial, critique, book review, movie review, film review, "
+              "personal statement, memoir, opinion column",
      .cues = "film, movie",
      .weak = "",
      .markers = "in conclusion, i argue that, in my opinion"},
@@ -273,7 +273,7 @@ constexpr auto rows = std::to_array<Base>({
      .markers = "in this lecture"},
     {.kind = studyNotes,
      .names = "study note, revision note, learning log, summary note, til, today i learned, learning note, "
-              "vocabulary list, formula sheet, exam review",
+              "vocabulary list, formula sheet, exam review, study guide note",
      .cues = "study, revision, concept",
      .weak = "",
      .markers = "key terms"},
@@ -302,7 +302,7 @@ constexpr auto rows = std::to_array<Base>({
      .weak = "quiz, quizzes, exam, midterm, finals",
      .markers = "multiple choice, true or false"},
     {.kind = errorNotes,
-     .names = "error note, mistake log, wrong answer, mistake notebook, mistake",
+     .names = "error note, mistake log, wrong answer, mistake notebook, mistake, error notebook",
      .cues = "",
      .weak = "",
      .markers = "why i got it wrong"},
