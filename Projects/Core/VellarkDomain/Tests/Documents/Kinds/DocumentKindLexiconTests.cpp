@@ -1,5 +1,7 @@
 #include "Documents/Kinds/SmallVocabulary.hpp"
+#include "Support/RandomInput.hpp"
 #include <VellarkDomain/Documents/Kinds/Lexicon/DocumentKindLexicon.hpp>
+#include <VellarkDomain/Documents/Kinds/Rules/DocumentKindRules.hpp>
 
 #include <gtest/gtest.h>
 
@@ -99,6 +101,38 @@ TEST(DocumentKindLexicon, hidesWhatExclusionsCover) {
     ASSERT_EQ(hits.size(), 2U);
     EXPECT_EQ(hits[0].start, 0U);
     EXPECT_EQ(hits[1].start, 18U);
+}
+
+// Over the real words, put side by side with and without blanks, so that exclusions, endings and compounds occur.
+TEST(DocumentKindLexicon, findsTheMarkersAmongAllHits) {
+    const DocumentKindLexicon& lexicon = DocumentKindLexicon::shared();
+    std::vector<std::string> pieces = {" ", " ", " ", " ", "s ", "es", ". ", "은 ", "x", "가", "の"};
+    for (const auto& row : DocumentKindRules::markers()) {
+        pieces.insert(pieces.end(), row.words.begin(), row.words.end());
+    }
+    const auto blocked = DocumentKindRules::blocked();
+    pieces.insert(pieces.end(), blocked.begin(), blocked.end());
+    for (const auto& row : DocumentKindRules::words(de)) {
+        pieces.insert(pieces.end(), row.nouns.begin(), row.nouns.end());
+    }
+    for (std::size_t count = pieces.size() / 2; count > 0; --count) {
+        pieces.emplace_back(" ");
+    }
+    std::vector<DocumentKindMatcher::Hit> all;
+    std::vector<DocumentKindMatcher::Hit> markers;
+    std::size_t found = 0;
+    for (const std::string& text : testing::randomTexts(3, 2'000, 40, pieces)) {
+        const std::u32string scalars = DocumentKindMatcher::normalize(text);
+        lexicon.hits(scalars, all);
+        std::erase_if(all, [&](const auto& hit) {
+            return std::ranges::find(lexicon.terms()[hit.pattern], Role::marker, &DocumentKindTerm::role) ==
+                   lexicon.terms()[hit.pattern].end();
+        });
+        lexicon.markerHits(scalars, markers);
+        ASSERT_EQ(markers, all) << text;
+        found += markers.size();
+    }
+    EXPECT_GT(found, 5'000U);
 }
 
 }  // namespace

@@ -16,9 +16,8 @@ namespace vellark::testing {
 /// Titles and documents of known kind, and how the classifier does on them.
 ///
 /// titles.tsv has a line for each title: language, raw value of the kind ("-" for a title that names none), title. A
-/// line of documents/index.tsv is the path of a file in that folder and the raw value of its kind. Lines that begin
-/// with
-/// "#" are left out.
+/// line of documents/index.tsv is the path that a document had, the raw value of its kind, and the file in that folder
+/// with its text. Lines that begin with "#" are left out.
 class KindCorpus {
 public:
     struct Score {
@@ -51,8 +50,8 @@ public:
         for (const auto& row : rows(folder_ / "titles.tsv", 3)) {
             judgeTitle(row[0], row[1], row[2]);
         }
-        for (const auto& row : rows(folder_ / "documents" / "index.tsv", 2)) {
-            judgeDocument(row[0], row[1]);
+        for (const auto& row : rows(folder_ / "documents" / "index.tsv", 3)) {
+            judgeDocument(row[0], row[1], row[2]);
         }
         return kindless.total > 0 || !languages.empty();
     }
@@ -108,10 +107,10 @@ private:
         kinds[expected].count(names(guess, expected), miss);
     }
 
-    void judgeDocument(const std::string& path, const std::string& expected) {
+    void judgeDocument(const std::string& path, const std::string& expected, const std::string& name) {
         const std::filesystem::path file(path);
         DocumentKindEvidence evidence = {.title = file.stem().string(), .path = path};
-        evidence.read(content(folder_ / "documents" / path),
+        evidence.read(content(folder_ / "documents" / name),
                       {.html = file.extension() == ".html" || file.extension() == ".htm"});
         const auto guess = DocumentKindClassifier::classify(evidence);
         documents.count(names(guess, expected), path + " " + expected + " -> " + answer(guess));

@@ -162,7 +162,7 @@ private:
 
         std::array<int, caseTable<DocumentKind>.size()> scores{};
         for (const std::uint32_t pattern : patterns) {
-            for (const DocumentKind kind : markerTerm(pattern)->kinds) {
+            for (const DocumentKind kind : markerTerm(pattern).kinds) {
                 ++scores[static_cast<std::size_t>(kind)];
             }
         }
@@ -181,16 +181,14 @@ private:
 
     void addMarkers(std::vector<std::uint32_t>& patterns, std::string_view text) const {
         std::vector<DocumentKindMatcher::Hit> hits;
-        lexicon_.hits(DocumentKindMatcher::normalize(text), hits);
+        lexicon_.markerHits(DocumentKindMatcher::normalize(text), hits);
         for (const auto& hit : hits) {
-            if (markerTerm(hit.pattern) != nullptr) patterns.push_back(hit.pattern);
+            patterns.push_back(hit.pattern);
         }
     }
 
-    [[nodiscard]] const DocumentKindTerm* markerTerm(std::uint32_t pattern) const {
-        const auto& terms = lexicon_.terms()[pattern];
-        const auto found = std::ranges::find(terms, Role::marker, &DocumentKindTerm::role);
-        return found == terms.end() ? nullptr : &*found;
+    [[nodiscard]] const DocumentKindTerm& markerTerm(std::uint32_t pattern) const {
+        return *std::ranges::find(lexicon_.terms()[pattern], Role::marker, &DocumentKindTerm::role);
     }
 
     const DocumentKindEvidence& evidence_;

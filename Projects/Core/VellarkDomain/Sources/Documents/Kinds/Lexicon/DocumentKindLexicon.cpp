@@ -25,6 +25,24 @@ std::u32string withoutJoiningBlanks(std::u32string_view pattern) {
     return result;
 }
 
+std::vector<std::uint32_t> indicesOfEither(const std::vector<bool>& left, const std::vector<bool>& right) {
+    std::vector<std::uint32_t> indices;
+    for (std::uint32_t index = 0; index < left.size(); ++index) {
+        if (left[index] || right[index]) indices.push_back(index);
+    }
+    return indices;
+}
+
+template <class Value>
+std::vector<Value> picked(const std::vector<Value>& values, std::span<const std::uint32_t> indices) {
+    std::vector<Value> result;
+    result.reserve(indices.size());
+    for (const std::uint32_t index : indices) {
+        result.push_back(values[index]);
+    }
+    return result;
+}
+
 }  // namespace
 
 /// The lexicon while it grows.
@@ -204,15 +222,26 @@ DocumentKindLexicon::DocumentKindLexicon(const DocumentKindVocabulary& vocabular
 
 DocumentKindLexicon::DocumentKindLexicon(Built&& built)
     : terms_(std::move(built.terms)),
+      isExclusion_(patternsWith(Role::exclusion)),
+      isMarker_(patternsWith(Role::marker)),
       duplicates_(std::move(built.duplicates)),
       matcher_({.patterns = built.patterns,
-                .suffixHead = std::move(built.suffixHead),
-                .plural = std::move(built.base),
-                .compound = std::move(built.compound)}) {
-    isExclusion_.reserve(terms_.size());
+                .suffixHead = built.suffixHead,
+                .plural = built.base,
+                .compound = built.compound}),
+      textPatterns_(indicesOfEither(isExclusion_, isMarker_)),
+      textMatcher_({.patterns = picked(built.patterns, textPatterns_),
+                    .suffixHead = picked(built.suffixHead, textPatterns_),
+                    .plural = picked(built.base, textPatterns_),
+                    .compound = picked(built.compound, textPatterns_)}) {}
+
+std::vector<bool> DocumentKindLexicon::patternsWith(Role role) const {
+    std::vector<bool> result;
+    result.reserve(terms_.size());
     for (const auto& list : terms_) {
-        isExclusion_.push_back(std::ranges::find(list, Role::exclusion, &DocumentKindTerm::role) != list.end());
+        result.push_back(std::ranges::find(list, role, &DocumentKindTerm::role) != list.end());
     }
+    return result;
 }
 
 const DocumentKindLexicon& DocumentKindLexicon::shared() {
@@ -222,6 +251,21 @@ const DocumentKindLexicon& DocumentKindLexicon::shared() {
 
 void DocumentKindLexicon::hits(std::u32string_view text, std::vector<DocumentKindMatcher::Hit>& hits) const {
     matcher_.hits(text, hits);
+    dropHidden(hits);
+}
+
+// Whether a pattern matches does not turn on the other patterns, and only exclusions hide.
+void DocumentKindLexicon::markerHits(std::u32string_view text, std::vector<DocumentKindMatcher::Hit>& hits) const {
+    textMatcher_.hits(text, hits);
+    for (auto& hit : hits) {
+        hit.pattern = textPatterns_[hit.pattern];
+    }
+    dropHidden(hits);
+    std::erase_if(hits, [&](const auto& hit) { return !isMarker_[hit.pattern]; });
+}
+
+// Drops what lies within an exclusion, and exclusions themselves.
+void DocumentKindLexicon::dropHidden(std::vector<DocumentKindMatcher::Hit>& hits) const {
     const auto isBlocker = [&](const DocumentKindMatcher::Hit& hit) { return isExclusion_[hit.pattern]; };
     if (std::ranges::none_of(hits, isBlocker)) return;
     RangeCover blockers;

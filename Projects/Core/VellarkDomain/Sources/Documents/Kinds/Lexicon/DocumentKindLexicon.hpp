@@ -4,6 +4,7 @@
 #include <VellarkDomain/Documents/Kinds/Matcher/DocumentKindMatcher.hpp>
 #include <VellarkDomain/Documents/Kinds/Rules/DocumentKindVocabulary.hpp>
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -33,6 +34,10 @@ public:
     /// The hits in a normalised text that no exclusion hides, in the matcher's order, in place of what `hits` held.
     void hits(std::u32string_view text, std::vector<DocumentKindMatcher::Hit>& hits) const;
 
+    /// Those of `hits` whose pattern has a marker's term, without the cost of finding the others: what a whole text is
+    /// read for.
+    void markerHits(std::u32string_view text, std::vector<DocumentKindMatcher::Hit>& hits) const;
+
     /// The pattern, and where it differs the form without the blanks between Korean, Japanese and Chinese words.
     [[nodiscard]] static std::vector<std::u32string> variants(std::u32string_view pattern);
 
@@ -41,10 +46,16 @@ private:
 
     explicit DocumentKindLexicon(Built&& built);
 
+    [[nodiscard]] std::vector<bool> patternsWith(DocumentKindTerm::Role role) const;
+    void dropHidden(std::vector<DocumentKindMatcher::Hit>& hits) const;
+
     std::vector<std::vector<DocumentKindTerm>> terms_;
     std::vector<bool> isExclusion_;
+    std::vector<bool> isMarker_;
     std::vector<std::string> duplicates_;
     DocumentKindMatcher matcher_;
+    std::vector<std::uint32_t> textPatterns_;  // the markers and exclusions, in ascending order
+    DocumentKindMatcher textMatcher_;          // over those alone
 };
 
 /// How a word of a language is written in plain ASCII letters: German with "ae" for "ä", French, Spanish and Vietnamese

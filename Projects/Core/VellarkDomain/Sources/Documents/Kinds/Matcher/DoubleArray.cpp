@@ -1,6 +1,8 @@
 #include <VellarkDomain/Documents/Kinds/Matcher/DoubleArray.hpp>
 
 #include <algorithm>
+#include <bit>
+#include <stdexcept>
 
 // Building walks the sorted keys range by range, so that no trie of nodes stands in between: the keys below a state are
 // one range, and those below its children are the runs of equal codes at the next depth. Places are found by first fit
@@ -12,6 +14,9 @@ namespace {
 
 constexpr std::uint32_t noCell = 0xFFFF'FFFF;
 
+// The base of states without children, and of no other: no cell below it can be taken for a child.
+constexpr std::uint32_t noBase = 0;
+
 // Free cells that are tried for a state with several children before it goes behind all that is taken.
 constexpr int mostTries = 64;
 
@@ -22,6 +27,7 @@ public:
     using Key = DoubleArray::Key;
     using State = DoubleArray::State;
     using Code = DoubleArray::Code;
+    using Cell = DoubleArray::Cell;
 
     explicit DoubleArrayBuilder(DoubleArray& array) : array_(array) {}
 
@@ -33,11 +39,13 @@ public:
                 highestCode_ = std::max(highestCode_, std::ranges::max(key.codes));
             }
         }
+        array_.codeBits_ = static_cast<unsigned>(std::bit_width(highestCode_ + 1));
+        array_.codeMask_ = (Cell{1} << array_.codeBits_) - 1;
         grow(tries.size() + 2 + codes / 2 + highestCode_);
-        take(DoubleArray::none, DoubleArray::none);
+        take(DoubleArray::none, array_.codeMask_);
         for (const auto& keys : tries) {
             const State root = freeCell(1);
-            take(root, noCell - 1);
+            take(root, array_.codeMask_);
             array_.roots_.push_back(root);
             pending_.push_back({root, 0, keys});
         }
@@ -60,7 +68,7 @@ private:
     void expand(Pending pending) {
         auto keys = pending.keys;
         if (!keys.empty() && keys.front().codes.size() == pending.depth) {
-            array_.cells_[pending.state].base |= DoubleArray::endsKey;
+            array_.cells_[pending.state] |= DoubleArray::endsKey;
             array_.values_[pending.state] = keys.front().value;
             keys = keys.subspan(1);
         }
@@ -71,28 +79,42 @@ private:
             if (codes_.empty() || codes_.back() != codeOf(key)) codes_.push_back(codeOf(key));
         }
         const std::uint32_t base = findBase();
-        array_.cells_[pending.state].base |= base;
+        array_.cells_[pending.state] |= base << array_.codeBits_;
         for (const Code code : codes_) {
             const auto run = std::ranges::find_if(keys, [&](const Key& key) { return codeOf(key) != code; });
             const auto count = static_cast<std::size_t>(run - keys.begin());
-            take(base + code, pending.state);
+            take(base + code, code);
             pending_.push_back({base + code, pending.depth + 1, keys.first(count)});
             keys = keys.subspan(count);
         }
     }
 
-    // The least base, among those tried, where all of `codes_` fall on free cells.
+    // The least base, among those tried, that no state has and where all of `codes_` fall on free cells.
     std::uint32_t findBase() {
-        std::uint32_t cell = freeCell(codes_.front());
+        std::uint32_t base = noBase;
+        std::uint32_t cell = freeCell(codes_.front() + 1);
         for (int tried = 0; cell != noCell && (tried < mostTries || codes_.size() == 1); ++tried) {
-            const std::uint32_t base = cell - codes_.front();
-            ensure(base + codes_.back() + 1);
-            if (std::ranges::all_of(codes_, [&](Code code) { return isFree(base + code); })) return base;
+            const std::uint32_t candidate = cell - codes_.front();
+            ensure(candidate + codes_.back() + 1);
+            if (suits(candidate)) {
+                base = candidate;
+                break;
+            }
             cell = next_[cell];
         }
-        const std::uint32_t base = std::max(lastTaken_ + 1, codes_.front()) - codes_.front();
-        ensure(base + codes_.back() + 1);
+        if (base == noBase) {
+            base = std::max(lastTaken_, codes_.front()) + 1 - codes_.front();
+            while (isBase_[base])
+                ++base;
+            ensure(base + codes_.back() + 1);
+        }
+        if (base > (~DoubleArray::endsKey >> array_.codeBits_)) throw std::length_error("too many keys");
+        isBase_[base] = true;
         return base;
+    }
+
+    [[nodiscard]] bool suits(std::uint32_t base) const {
+        return !isBase_[base] && std::ranges::all_of(codes_, [&](Code code) { return isFree(base + code); });
     }
 
     // The first free cell that is not before the given one.
@@ -107,10 +129,11 @@ private:
         return std::max(end, least);
     }
 
-    [[nodiscard]] bool isFree(std::uint32_t cell) const { return array_.cells_[cell].owner == noCell; }
+    [[nodiscard]] bool isFree(std::uint32_t cell) const { return !isTaken_[cell]; }
 
-    void take(std::uint32_t cell, State owner) {
-        array_.cells_[cell].owner = owner;
+    void take(std::uint32_t cell, Code code) {
+        array_.cells_[cell] = code;  // the mask stands for a cell that is no child
+        isTaken_[cell] = true;
         lastTaken_ = std::max(lastTaken_, cell);
         const std::uint32_t before = previous_[cell];
         const std::uint32_t after = next_[cell];
@@ -125,8 +148,10 @@ private:
     // Adds free cells, in ascending order at the end of the list.
     void grow(std::size_t size) {
         auto cell = static_cast<std::uint32_t>(array_.cells_.size());
-        array_.cells_.resize(size);
+        array_.cells_.resize(size, array_.codeMask_);
         array_.values_.resize(size);
+        isTaken_.resize(size);
+        isBase_.resize(size);
         next_.resize(size, noCell);
         previous_.resize(size, noCell);
         for (; cell < size; ++cell) {
@@ -139,16 +164,19 @@ private:
     // A step from any state by any code must land inside the array.
     void finish() {
         std::uint32_t highestBase = 0;
-        for (const auto& cell : array_.cells_) {
-            highestBase = std::max(highestBase, cell.base & ~DoubleArray::endsKey);
+        for (const Cell cell : array_.cells_) {
+            highestBase = std::max(highestBase, array_.base(cell));
         }
-        array_.cells_.resize(std::max<std::size_t>(array_.cells_.size(), highestBase + highestCode_ + 1));
+        array_.cells_.resize(std::max<std::size_t>(array_.cells_.size(), highestBase + highestCode_ + 1),
+                             array_.codeMask_);
         array_.values_.resize(array_.cells_.size());
     }
 
     DoubleArray& array_;
     std::vector<Pending> pending_;
     std::vector<Code> codes_;
+    std::vector<bool> isTaken_;
+    std::vector<bool> isBase_;
     std::vector<std::uint32_t> next_;
     std::vector<std::uint32_t> previous_;
     std::uint32_t first_ = noCell;

@@ -6,8 +6,9 @@
 
 namespace vellark {
 
-/// Several tries in one double array: a state's child on code c is the cell `base + c`, when that cell names the state
-/// as its owner. One look at one cell of eight bytes answers a step, found or not.
+/// Several tries in one double array: a state's child on code c is the cell `base + c`, when that cell names c. No two
+/// states have the same base, so the code tells the owner too, and one look at one cell of four bytes answers a step,
+/// found or not.
 class DoubleArray {
 public:
     using State = std::uint32_t;
@@ -22,19 +23,21 @@ public:
         std::uint32_t value = 0;
     };
 
-    /// One trie for each list of keys. The keys are sorted by their codes, and none is twice in a list.
+    /// One trie for each list of keys. The keys are sorted by their codes, and none is twice in a list. A cell's bits
+    /// are shared between base and code: with 2,000 codes a million cells fit, several times as many as the keys have
+    /// states. Throws std::length_error beyond that.
     explicit DoubleArray(std::span<const std::span<const Key>> tries);
 
     /// The root of a trie, in the order of the lists.
     [[nodiscard]] State root(std::size_t trie) const { return roots_[trie]; }
 
-    /// The child on a code; `none` when there is none. Code 0 never has one.
+    /// The child on a code of the keys; `none` when there is none. Code 0 never has one.
     [[nodiscard]] State step(State state, Code code) const {
-        const State next = (cells_[state].base & ~endsKey) + code;
-        return cells_[next].owner == state ? next : none;
+        const State next = base(cells_[state]) + code;
+        return (cells_[next] & codeMask_) == code ? next : none;
     }
 
-    [[nodiscard]] bool isEnd(State state) const { return (cells_[state].base & endsKey) != 0; }
+    [[nodiscard]] bool isEnd(State state) const { return (cells_[state] & endsKey) != 0; }
 
     /// The value of the key that ends at the state; only for ends.
     [[nodiscard]] std::uint32_t value(State state) const { return values_[state]; }
@@ -42,13 +45,16 @@ public:
 private:
     friend class DoubleArrayBuilder;
 
-    static constexpr std::uint32_t endsKey = 0x8000'0000;
+    // From the highest bit: whether a key ends here; the base of the children; the cell's own code, all ones in
+    // a root and in a free cell.
+    using Cell = std::uint32_t;
 
-    struct Cell {
-        std::uint32_t base = 0;     // the highest bit tells that a key ends here
-        State owner = 0xFFFF'FFFF;  // parent; all ones in a free cell
-    };
+    static constexpr Cell endsKey = 0x8000'0000;
 
+    [[nodiscard]] State base(Cell cell) const { return (cell & ~endsKey) >> codeBits_; }
+
+    unsigned codeBits_ = 0;
+    Cell codeMask_ = 0;
     std::vector<Cell> cells_;
     std::vector<std::uint32_t> values_;
     std::vector<State> roots_;

@@ -15,11 +15,11 @@ MatcherAlphabet::MatcherAlphabet(std::span<const std::u32string> patterns) : ent
     constexpr Entry one = 1U << flagBits;
     std::vector<char32_t> scalars;
     for (const std::u32string& pattern : patterns) {
+        if (std::ranges::any_of(pattern, [](char32_t scalar) { return scalar > 0x10'FFFF; })) continue;
         for (const char32_t scalar : pattern) {
-            Entry* const found = entry(scalar);
-            if (found == nullptr) continue;
-            if (code(*found) == 0) scalars.push_back(scalar);
-            *found += one;
+            Entry& found = *entry(scalar);
+            if (code(found) == 0) scalars.push_back(scalar);
+            found += one;
         }
     }
     std::vector<std::pair<Entry, char32_t>> byCount;

@@ -37,16 +37,16 @@ constexpr auto rows = std::to_array<Base>({
      .weak = "ticket, stories",
      .markers = "as a user, so that i can, story points"},
     {.kind = meetingNotes,
-     .names = "meeting note, meeting minute, minutes, meeting agenda, agenda, meeting memo, meeting outcome, "
+     .names = "meeting note, meeting minute, minutes, agenda, meeting memo, meeting outcome, "
               "call transcript, discussion note",
      .cues = "meeting, standup, kickoff, call, one on one, sync, stand up",
-     .weak = "meeting",
-     .markers = "attendees, action items, decisions made"},
+     .weak = "discussion",
+     .markers = "attendees, action items, decisions, participants, agenda, next meeting"},
     {.kind = report,
      .names = "report, status update, weekly update, progress update, project update, project status, "
               "executive summary, dashboard, white paper, whitepaper, business review, qbr",
      .cues = "weekly, monthly, quarterly, annual, progress, status, kpi, performance",
-     .weak = "update, status",
+     .weak = "update, snapshot",
      .markers = "key findings, executive summary, key takeaways"},
     {.kind = research,
      .names = "research, survey, research report, survey report, competitive analysis, competitor analysis, "
@@ -65,7 +65,7 @@ constexpr auto rows = std::to_array<Base>({
      .names = "checklist, task list, todo list, to do list, shopping list, packing list, grocery list, bucket list",
      .cues = "daily, today, packing, list",
      .weak = "todo, to do, task list",
-     .markers = "double check"},
+     .markers = ""},
     {.kind = proposal,
      .names = "proposal, rfp, rfq, bid, business case, grant application, concept note",
      .cues = "rfp, grant, sponsorship, request for proposal",
@@ -106,7 +106,7 @@ constexpr auto rows = std::to_array<Base>({
      .names = "bug report, bug, defect, defect report, issue report, crash report, error report, bug list, "
               "known issue, bug analysis",
      .cues = "bug, crash, error, defect",
-     .weak = "issue, error",
+     .weak = "issue, triage",
      .markers = "steps to reproduce, expected behavior, actual behavior"},
     {.kind = codeReview,
      .names = "code review, pr review, pull request, merge request, pr description, code audit, code walkthrough, "
@@ -119,7 +119,7 @@ constexpr auto rows = std::to_array<Base>({
               "rca, outage report, incident analysis, outage analysis, failure analysis, incident timeline",
      .cues = "incident, outage, root cause, downtime",
      .weak = "timeline, whys",
-     .markers = "root cause, contributing factors, corrective actions"},
+     .markers = "root cause, contributing factors, corrective actions, timeline, impact"},
     {.kind = changelog,
      .names = "changelog, change log, release note, patch note, version history, revision history, update note, "
               "update log, what's new, breaking change",
@@ -145,8 +145,8 @@ constexpr auto rows = std::to_array<Base>({
      .weak = "",
      .markers = "output format, you are an expert, your task is"},
     {.kind = design,
-     .names = "mockup, wireframe, prototype, persona, moodboard, mood board, user flow, ui design, logo, "
-              "design brief, creative brief, sitemap, journey map, layout",
+     .names = "mockup, wireframe, prototype, persona, moodboard, mood board, user flow, ui design, "
+              "design brief, creative brief, sitemap, journey map, layout, logo design",
      .cues = "ui, ux, logo",
      .weak = "screen, flow",
      .markers = ""},
@@ -167,7 +167,7 @@ constexpr auto rows = std::to_array<Base>({
               "price list, pricing, catalog, company profile, success story, success stories",
      .cues = "sales, customer",
      .weak = "pitch, leads",
-     .markers = "book a demo"},
+     .markers = ""},
     {.kind = pressRelease,
      .names = "press release, media release, news release, press kit, press statement, media advisory",
      .cues = "press",
@@ -189,21 +189,21 @@ constexpr auto rows = std::to_array<Base>({
               "investment memo, strategic plan, growth strategy, revenue model",
      .cues = "startup, investor",
      .weak = "",
-     .markers = "competitive advantage"},
+     .markers = ""},
     {.kind = finance,
      .names = "budget, invoice, quote, estimate, financial statement, balance sheet, income statement, cash flow, "
               "profit and loss, p l, expense report, expense, receipt, purchase order, forecast, financial model, "
               "financial plan, payroll, ledger, cost breakdown",
      .cues = "financial, revenue, expense, tax",
      .weak = "bill",
-     .markers = "amount due, subtotal, bill to"},
+     .markers = "amount due, subtotal, bill to, payment terms, vat"},
     {.kind = legal,
      .names = "contract, agreement, nda, terms, terms and conditions, privacy policy, privacy notice, license, "
               "licence, lease, sla, msa, mou, sow, eula, disclaimer, patent, patent application, legal opinion, "
               "consent form",
      .cues = "legal, statement of work, patent, copyright",
      .weak = "conditions, statement",
-     .markers = "hereinafter, governing law, indemnify"},
+     .markers = "hereinafter, governing law, confidentiality, termination, this agreement"},
     {.kind = policy,
      .names = "policy, policies, rule, regulation, governance, standard, working agreement, team agreement, "
               "employee handbook",
@@ -227,7 +227,7 @@ constexpr auto rows = std::to_array<Base>({
      .weak = "email, e mail, mail",
      .markers = "best regards, sincerely, kind regards"},
     {.kind = faq,
-     .names = "faq, frequently asked question, q a, q and a, qna, question, help article, support article, "
+     .names = "faq, q a, q and a, qna, question, help article, support article, "
               "questions and answers",
      .cues = "asked, support",
      .weak = "answers, help",
@@ -236,7 +236,7 @@ constexpr auto rows = std::to_array<Base>({
      .names = "blog post, blog, blog entry, article, listicle",
      .cues = "blog, seo",
      .weak = "",
-     .markers = "in this post"},
+     .markers = ""},
     {.kind = script,
      .names = "script, screenplay, speech, speeches, subtitle, voiceover, voice over, transcript, dialogue, "
               "talking point",
@@ -244,8 +244,8 @@ constexpr auto rows = std::to_array<Base>({
      .weak = "lines, scene",
      .markers = "fade in, cut to, voice over"},
     {.kind = essay,
-     .names = "essay, column, op ed, opinion piece, editorial, critique, book review, movie review, film review, "
-              "personal statement, memoir",
+     .names = "essay, op ed, opinion piece, editorial, critique, book review, movie review, film review, "
+              "personal statement, memoir, opinion column",
      .cues = "film, movie",
      .weak = "",
      .markers = "in conclusion, i argue that, in my opinion"},
@@ -270,31 +270,31 @@ constexpr auto rows = std::to_array<Base>({
      .names = "lecture note, class note, course note, lecture, lecture transcript",
      .cues = "lecture, class, seminar, webinar",
      .weak = "",
-     .markers = "in this lecture"},
+     .markers = ""},
     {.kind = studyNotes,
      .names = "study note, revision note, learning log, summary note, til, today i learned, learning note, "
-              "vocabulary list, formula sheet, exam review",
+              "vocabulary list, formula sheet, exam review, study guide note",
      .cues = "study, revision, concept",
      .weak = "",
-     .markers = "key terms"},
+     .markers = ""},
     {.kind = readingNotes,
      .names = "reading note, reading log, reading journal, book note, book summary, book report, paper summary, "
               "paper note, paper review, literature note, article summary, reading list",
      .cues = "book, reading",
      .weak = "",
-     .markers = "favorite quotes"},
+     .markers = ""},
     {.kind = exercises,
      .names = "exercise, worksheet, problem set, practice problem, practice question, homework, assignment, drill, "
               "question bank, review question",
      .cues = "",
      .weak = "",
-     .markers = "solve the following"},
+     .markers = ""},
     {.kind = solutions,
      .names = "solution, answer key, answer sheet, answer, worked example, solution manual, marking scheme, "
               "solution guide",
      .cues = "",
      .weak = "",
-     .markers = "therefore the answer"},
+     .markers = ""},
     {.kind = quiz,
      .names = "practice test, practice exam, mock exam, mock test, final exam, midterm exam, exam paper, test paper, "
               "examination, trivia, vocabulary test",
@@ -302,10 +302,10 @@ constexpr auto rows = std::to_array<Base>({
      .weak = "quiz, quizzes, exam, midterm, finals",
      .markers = "multiple choice, true or false"},
     {.kind = errorNotes,
-     .names = "error note, mistake log, wrong answer, mistake notebook, mistake",
+     .names = "error note, mistake log, wrong answer, mistake notebook, mistake, error notebook",
      .cues = "",
      .weak = "",
-     .markers = "why i got it wrong"},
+     .markers = ""},
     {.kind = paper,
      .names = "paper, thesis, dissertation, abstract, preprint, manuscript, journal article, research article, "
               "systematic review, meta analysis",
@@ -322,7 +322,7 @@ constexpr auto rows = std::to_array<Base>({
               "recommendation letter, reference letter, resume cv, candidate profile",
      .cues = "engineer, developer, designer, manager, career, professional, my",
      .weak = "resume, cv",
-     .markers = "work experience, education, certifications"},
+     .markers = "work experience, education, certifications, skills"},
     {.kind = travelPlan,
      .names = "itinerary, travel plan, travel schedule, travel guide, trip plan, trip, vacation plan, "
               "travel checklist, travel budget",

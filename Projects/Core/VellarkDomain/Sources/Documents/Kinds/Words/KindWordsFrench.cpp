@@ -28,9 +28,9 @@ constexpr Layered words[] = {
               "critères d'acceptation, scénario utilisateur, backlog produit",
      .weak = ""},
     {.kind = DocumentKind::meetingNotes,
-     .nouns = "compte rendu, comptes rendus, procès-verbal, procès-verbaux, pv de réunion, pv d'assemblée générale, "
+     .nouns = "compte rendu, comptes rendus, procès-verbal, procès-verbaux, pv d'assemblée générale, "
               "cr de réunion, cr réunion, relevé de décisions, notes de réunion, ordre du jour, réunion d'équipe, "
-              "point hebdo",
+              "point hebdo, pv",
      .weak = ""},
     {.kind = DocumentKind::report,
      .nouns = "rapport, rapports, bilan, bilans, reporting, synthèse, synthèses, note de synthèse, tableau de bord, "
@@ -53,7 +53,8 @@ constexpr Layered words[] = {
      .weak = "tâches, liste, listes"},
     {.kind = DocumentKind::proposal,
      .nouns = "proposition, propositions, recommandation, recommandations, préconisations, demande de subvention, "
-              "demande de financement, réponse à appel d'offres, avant-projet, projet de recherche",
+              "demande de financement, réponse à appel d'offres, avant-projet, projet de recherche, "
+              "proposition commerciale, propositions commerciales",
      .weak = ""},
     {.kind = DocumentKind::memo,
      .nouns = "note de service, notes de service, note interne, notes internes, mémo, mémos, pense-bête, "
@@ -97,9 +98,10 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::guide,
      .nouns = "guide, guides, manuel, manuels, mode d'emploi, modes d'emploi, tutoriel, tutoriels, tuto, tutos, "
-              "procédure, procédures, notice d'utilisation, notice de montage, notice explicative, "
+              "procédure, procédures, notice d'utilisation, notice explicative, "
               "guide utilisateur, guide d'installation, guide pratique, fiche pratique, livret d'accueil, consignes, "
-              "prise en main, mode opératoire, bonnes pratiques, documentation technique, documentation utilisateur",
+              "prise en main, mode opératoire, bonnes pratiques, documentation technique, "
+              "documentation utilisateur, guide d'accueil",
      .weak = "méthode, démarche, étapes"},
     {.kind = DocumentKind::data,
      .nouns = "données, jeu de données, jeux de données, statistiques, chiffres clés, indicateurs, "
@@ -119,12 +121,12 @@ constexpr Layered words[] = {
               "charte éditoriale",
      .weak = ""},
     {.kind = DocumentKind::marketingCopy,
-     .nouns = "texte publicitaire, accroche, accroches, slogan, slogans, page de vente, page d'atterrissage, "
+     .nouns = "texte publicitaire, accroche, accroches, slogan, slogans, page de vente, "
               "publicité, annonce publicitaire, dépliant, dépliants, description produit, fiche produit, "
-              "fiches produit, texte promotionnel",
+              "fiches produit, texte promotionnel, textes publicitaires",
      .weak = ""},
     {.kind = DocumentKind::sales,
-     .nouns = "proposition commerciale, propositions commerciales, offre, offres, argumentaire, "
+     .nouns = "offre, offres, argumentaire, "
               "présentation commerciale, plaquette commerciale, catalogue, catalogues, script de vente, cas client, "
               "grille tarifaire",
      .weak = ""},

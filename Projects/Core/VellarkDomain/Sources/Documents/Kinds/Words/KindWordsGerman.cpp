@@ -46,14 +46,14 @@ constexpr Layered words[] = {
      .nouns = "vorschlag, vorschläge, antrag, anträge, empfehlung, empfehlungen, entscheidungsvorlage, "
               "beschlussvorlage",
      .weak = ""},
-    {.kind = DocumentKind::memo, .nouns = "notiz, notizen, vermerk, vermerke, gedankenstütze", .weak = ""},
+    {.kind = DocumentKind::memo, .nouns = "notiz, notizen, vermerk, vermerke, notizzettel", .weak = ""},
     {.kind = DocumentKind::presentation,
      .nouns = "präsentation, präsentationen, folien, vortrag, vorträge, referat, referate",
      .weak = ""},
     {.kind = DocumentKind::designDoc,
-     .nouns = "architektur, architekturdokumentation, architekturkonzept, architekturentscheidung, "
+     .nouns = "architektur, architekturkonzept, architekturentscheidung, "
               "technisches konzept, feinkonzept, systementwurf, datenbankentwurf, datenmodell, datenbankschema, "
-              "klassendiagramm, berechtigungskonzept",
+              "klassendiagramm, berechtigungskonzept, architekturentwurf",
      .weak = ""},
     {.kind = DocumentKind::apiDoc,
      .nouns = "api-dokumentation, api-referenz, api-spezifikation, schnittstellenbeschreibung, "
@@ -185,7 +185,8 @@ constexpr Layered words[] = {
               "arbeitsblätter, aufgabenblatt, hausaufgabe, hausaufgaben",
      .weak = ""},
     {.kind = DocumentKind::solutions,
-     .nouns = "musterlösung, musterlösungen, lösungen, lösungsblatt, lösungsweg, lösungsvorschlag, erwartungshorizont",
+     .nouns = "musterlösung, musterlösungen, lösungen, lösungsblatt, lösungsweg, lösungsvorschlag, "
+              "erwartungshorizont",
      .weak = ""},
     {.kind = DocumentKind::quiz,
      .nouns = "klausur, klausuren, klassenarbeit, klassenarbeiten, prüfungsfragen, prüfungsaufgaben, "

@@ -77,7 +77,7 @@ constexpr auto rows = std::to_array<Shared>({
              "토익, 수능, 내신, 자격증, 챕터, chapter, unit, math, algebra, calculus, geometry, physics, chemistry, "
              "biology, history, geography, economics, psychology, grammar, vocabulary, anatomy, statistics, lesson, "
              "spanish, english, french, science, 試験, 期末, 期中, 中間, 数学, 數學, 英語, 英语, 物理, 化学, 化學, "
-             "生物, 歴史, 历史, 歷史, 考试, 考試, 単元, 单元, 文法, 语法, 語法, 単語, 单词"},
+             "生物, 歴史, 世界史, 日本史, 历史, 歷史, 考试, 考試, 単元, 单元, 文法, 语法, 語法, 単語, 单词"},
     {.kinds = anyOf<studyNotes, guide>,
      .names = "",
      .generics = "",
@@ -88,9 +88,14 @@ constexpr auto rows = std::to_array<Shared>({
              "データ構造, ネットワーク, 算法, 数据结构, 数據結構, 操作系统, 机器学习, 深度学习, 機械学習"},
     {.kinds = anyOf<memo, journal>,
      .names = "",
-     .generics = "정리, 정리본, 요약, 요약본, 요약문, 노트, 기록, 기록지, 기록물, 결과, 내용, summary, summaries, "
-                 "notes, note, recap, takeaways, takeaway, records, record, results, result, list, まとめ, ノート, "
-                 "記録, 要約, 結果, 内容, 要点, 总结, 總結, 笔记, 筆記, 记录, 紀錄, 摘要, 小结, 结果, 纪要, 內容, "
+     .generics = "정리, 정리본, 요약, 요약본, 요약문, 요약 정리, 초고, 초벌, 의견, 노트, 기록, 기록지, 기록물, "
+                 "결과, 내용, summary, summaries, "
+                 "notes, note, recap, takeaways, takeaway, records, record, findings, variants, january, february, "
+                 "march, april, may, june, july, august, september, october, november, december, results, result, "
+                 "list, まとめ, ノート, "
+                 "記録, 要約, 結果, 内容, 要点, 草稿, 素案, 月分, 月号, 初稿, 定稿, 修订稿, 第期, 第讲, 意见, 一月, "
+                 "二月, 三月, 四月, 五月, 六月, 七月, 八月, 九月, 十月, 总结, 總結, 笔记, 筆記, 记录, 紀錄, 摘要, "
+                 "小结, 结果, 纪要, 內容, "
                  "整理",
      .cues = ""},
     {.kinds = anyOf<journal, changelog>,
@@ -106,7 +111,7 @@ constexpr auto rows = std::to_array<Shared>({
              "ワークショップ, 朝会, 定例, 研讨会, 研討會, 例会, 周会"},
     {.kinds = anyOf<blogPost, socialPost, essay>,
      .names = "포스트, 게시글, 스레드, thread, スレッド, 후기, 체험기, 사용기, 방문기, 기고, post, write up, "
-              "writeup, 投稿, 記事, 文章, 帖子, 体験記",
+              "writeup, 記事, 文章, 帖子, 体験記",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<data, checklist>,

@@ -14,7 +14,7 @@ namespace {
 constexpr std::array<Layered, 55> words{{
     {DocumentKind::prd,
      "documento de requisitos del producto, requisitos del producto, requerimientos del producto, "
-     "definición del producto, visión del producto, brief de producto, prd, definición de producto",
+     "visión del producto, brief de producto, prd, definición de producto, requisitos de producto",
      ""},
     {DocumentKind::spec,
      "especificación, especificaciones, pliego de condiciones, requisitos, requerimientos, análisis de requisitos, "
@@ -64,7 +64,7 @@ constexpr std::array<Layered, 55> words{{
      "documento de diseño, diseño técnico, diseño de arquitectura, diseño del sistema, diseño de software, "
      "diseño de base de datos, diseño de la base de datos, diseño de api, arquitectura del sistema, "
      "arquitectura de software, decisión de arquitectura, decisiones de arquitectura, modelo de datos, "
-     "diagrama de arquitectura, esquema de base de datos, adr, rfc, diagrama de flujo, documento de arquitectura",
+     "esquema de base de datos, adr, rfc, diagrama de flujo, documento de arquitectura, arquitectura",
      ""},
     {DocumentKind::apiDoc,
      "documentación de la api, documentación de api, referencia de la api, referencia de api, "
@@ -118,7 +118,9 @@ constexpr std::array<Layered, 55> words{{
      "dossier comercial, catálogo, catálogos, lista de precios, tarifas, caso de éxito, casos de éxito",
      ""},
     {DocumentKind::pressRelease,
-     "nota de prensa, notas de prensa, comunicado de prensa, comunicados de prensa, dossier de prensa, gacetilla", ""},
+     "nota de prensa, notas de prensa, comunicado de prensa, comunicados de prensa, dossier de prensa, "
+     "gacetilla",
+     ""},
     {DocumentKind::newsletter, "boletín, boletines, newsletter, newsletters", ""},
     {DocumentKind::socialPost,
      "publicación en redes sociales, publicaciones en redes sociales, publicación para redes sociales, "

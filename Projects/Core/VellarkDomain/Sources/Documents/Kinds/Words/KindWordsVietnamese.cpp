@@ -48,7 +48,9 @@ constexpr std::array<Layered, 55> words{{
     {DocumentKind::proposal, "đề xuất, bản đề xuất, tờ trình, đề án, phương án, kiến nghị, mẫu đề xuất", ""},
     {DocumentKind::memo, "ghi chú, ghi nhớ, ghi chép, lời nhắc", ""},
     {DocumentKind::presentation,
-     "bài thuyết trình, thuyết trình, bản trình bày, bài trình bày, slide thuyết trình, tham luận, slide báo cáo", ""},
+     "bài thuyết trình, thuyết trình, bản trình bày, bài trình bày, slide thuyết trình, tham luận, "
+     "slide báo cáo",
+     ""},
     {DocumentKind::designDoc,
      "tài liệu thiết kế, thiết kế hệ thống, thiết kế kỹ thuật, thiết kế phần mềm, thiết kế cơ sở dữ liệu, "
      "thiết kế api, kiến trúc hệ thống, kiến trúc phần mềm, mô hình dữ liệu, sơ đồ kiến trúc, "
@@ -61,7 +63,7 @@ constexpr std::array<Layered, 55> words{{
      ""},
     {DocumentKind::bugReport, "báo cáo lỗi, báo lỗi, danh sách lỗi, báo cáo bug, lỗi khi, lỗi đăng nhập, mô tả lỗi",
      ""},
-    {DocumentKind::codeReview, "đánh giá mã nguồn, đánh giá code, rà soát code, kiểm tra mã nguồn, nhận xét code", ""},
+    {DocumentKind::codeReview, "đánh giá mã nguồn, đánh giá code, kiểm tra mã nguồn, nhận xét code, review code", ""},
     {DocumentKind::postmortem,
      "báo cáo sự cố, phân tích sự cố, tổng kết sự cố, điều tra sự cố, phân tích nguyên nhân gốc rễ", ""},
     {DocumentKind::changelog,
