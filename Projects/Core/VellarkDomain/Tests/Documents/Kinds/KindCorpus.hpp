@@ -7,6 +7,7 @@
 #include <iterator>
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -15,9 +16,9 @@ namespace vellark::testing {
 
 /// Titles and documents of known kind, and how the classifier does on them.
 ///
-/// titles.tsv has a line for each title: language, raw value of the kind ("-" for a title that names none), title. A
-/// line of documents/index.tsv is the path that a document had, the raw value of its kind, and the file in that folder
-/// with its text. Lines that begin with "#" are left out.
+/// Each .tsv file of the folder has a line for each title: language, raw value of the kind ("-" for a title that names
+/// none), title. A line of documents/index.tsv is the path that a document had, the raw value of its kind, and the file
+/// in that folder with its text. Lines that begin with "#" are left out.
 class KindCorpus {
 public:
     struct Score {
@@ -47,8 +48,14 @@ public:
 
     /// False when there are no titles.
     bool run() {
-        for (const auto& row : rows(folder_ / "titles.tsv", 3)) {
-            judgeTitle(row[0], row[1], row[2]);
+        std::set<std::filesystem::path> lists;
+        for (const auto& entry : std::filesystem::directory_iterator(folder_)) {
+            if (entry.path().extension() == ".tsv") lists.insert(entry.path());
+        }
+        for (const auto& list : lists) {
+            for (const auto& row : rows(list, 3)) {
+                judgeTitle(row[0], row[1], row[2]);
+            }
         }
         for (const auto& row : rows(folder_ / "documents" / "index.tsv", 3)) {
             judgeDocument(row[0], row[1], row[2]);
