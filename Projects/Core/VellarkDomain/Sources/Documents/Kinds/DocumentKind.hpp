@@ -1,5 +1,6 @@
 #pragma once
 
+#include <VellarkDomain/Documents/Kinds/DocumentIconPreset.hpp>
 #include <VellarkFoundation/Records/Enumeration.hpp>
 
 #include <array>
@@ -170,6 +171,11 @@ namespace DocumentKinds {
 
 /// The name of the kind's picture; nothing for `other`.
 [[nodiscard]] std::optional<std::string_view> symbol(DocumentKind kind);
+
+/// The icon of documents of the kind, where it has one of its own.
+[[nodiscard]] constexpr std::optional<DocumentIconPreset> preset(DocumentKind kind) {
+    return kind == DocumentKind::plan ? std::optional(DocumentIconPreset::plan) : std::nullopt;
+}
 
 /// The kinds among which a model may be asked to choose, in their order: all but `conversation`.
 [[nodiscard]] std::span<const DocumentKind> modelChoices();
