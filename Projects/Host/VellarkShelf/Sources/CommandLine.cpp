@@ -1,8 +1,11 @@
+#include <VellarkLocalization/LocalizationController.hpp>
 #include <VellarkShelf/CommandLine.hpp>
 #include <VellarkShelf/Commands/Commands.hpp>
+#include <VellarkShelf/Data/ShelfSettings.hpp>
 
 #include <CLI/CLI.hpp>
 
+#include <csignal>
 #include <cstdio>
 #include <exception>
 #include <functional>
@@ -11,10 +14,76 @@ namespace vellark {
 
 namespace {
 
-// Runs one command; what escapes it is told, not thrown at the user.
-int guarded(const std::function<int()>& command) {
+constexpr int usageError = 2;
+
+// All that the arguments say, and which command is to run.
+struct Request {
+    std::optional<std::string> directory;
+    bool json = false;
+    Commands::CollectOptions collect;
+    Commands::ListOptions list;
+    Commands::PagesOptions pages;
+    std::string id;
+    std::vector<std::string> paths;
+    std::function<int(const Commands::Context&)> command;
+};
+
+CLI::App* addCommand(CLI::App& app, Request& request, const char* name, const char* description,
+                     std::function<int(const Commands::Context&)> command) {
+    CLI::App* added = app.add_subcommand(name, description);
+    added->add_flag("--json", request.json, "Write JSON");
+    added->callback([&request, command = std::move(command)] { request.command = command; });
+    return added;
+}
+
+void describeShelf(CLI::App& app, Request& request) {
+    CLI::App* collect = addCommand(
+        app, request, "collect", "Bring the documents of all pending signals into the library",
+        [&request](const Commands::Context& context) { return Commands::collect(context, request.collect); });
+    collect->add_flag("-w,--watch", request.collect.watch, "Go on until interrupted, asleep between signals");
+    collect->add_flag("-q,--quiet", request.collect.quiet, "Tell of problems only");
+
+    CLI::App* list =
+        addCommand(app, request, "list", "List the documents, the latest first",
+                   [&request](const Commands::Context& context) { return Commands::list(context, request.list); });
+    list->add_option("-k,--kind", request.list.kind, "Documents of one kind, such as meeting-notes");
+    list->add_option("-p,--project", request.list.project, "Documents of one project, by its name or root");
+    list->add_option("-n,--limit", request.list.limit, "At most so many");
+
+    CLI::App* show =
+        addCommand(app, request, "show", "Show what is known of a document",
+                   [&request](const Commands::Context& context) { return Commands::show(context, request.id); });
+    show->add_option("ID", request.id, "The document's identifier, or its beginning")->required();
+
+    CLI::App* pages =
+        addCommand(app, request, "pages", "List the pages of a document's text, or print one",
+                   [&request](const Commands::Context& context) { return Commands::pages(context, request.pages); });
+    pages->add_option("ID", request.pages.id, "The document's identifier, or its beginning")->required();
+    pages->add_option("-p,--page", request.pages.page, "The page to print, from 1");
+
+    CLI::App* inspect =
+        addCommand(app, request, "inspect", "Judge files and folders as if an agent had just written them",
+                   [&request](const Commands::Context& context) { return Commands::inspect(context, request.paths); });
+    inspect->add_option("FILE", request.paths, "Files and folders")->required();
+
+    app.add_subcommand("redact", "Copy standard input to standard output with every secret blanked")
+        ->callback([&request] { request.command = [](const Commands::Context&) { return Commands::redact(); }; });
+}
+
+// The language that the settings name, or else the system's.
+void chooseLanguage(const Commands::Context& context) {
+    const std::string language = ShelfSettings::read(context.directory).settings.language;
+    if (!language.empty()) LocalizationController::shared().apply(language);
+}
+
+int runRequest(const Request& request) {
+    const Environment environment = Environment::ofProcess();
+    const Commands::Context context{.directory = DataDirectory::chosen(request.directory, environment),
+                                    .environment = environment,
+                                    .json = request.json};
     try {
-        return command();
+        chooseLanguage(context);
+        return request.command(context);
     } catch (const std::exception& error) {
         std::fprintf(stderr, "vellark: %s\n", error.what());
         return 1;
@@ -24,20 +93,20 @@ int guarded(const std::function<int()>& command) {
 }  // namespace
 
 int CommandLine::run(int argumentCount, const char* const* arguments) {
+    // A reader that has seen enough, such as `head`, is no reason to die without a word.
+    std::signal(SIGPIPE, SIG_IGN);
     CLI::App app("The shelf of the documents that your agents write.", "vellark");
     app.require_subcommand(1);
-    int status = 0;
-
-    app.add_subcommand("redact", "Copy standard input to standard output with every secret blanked")->callback([&] {
-        status = guarded(Commands::redact);
-    });
-
+    Request request;
+    app.add_option("-d,--data", request.directory, "The data directory, in place of VELLARK_DATA_DIR");
+    app.fallthrough();
+    describeShelf(app, request);
     try {
         app.parse(argumentCount, arguments);
     } catch (const CLI::ParseError& error) {
-        return app.exit(error) == 0 ? 0 : 2;
+        return app.exit(error) == 0 ? 0 : usageError;
     }
-    return status;
+    return runRequest(request);
 }
 
 }  // namespace vellark
