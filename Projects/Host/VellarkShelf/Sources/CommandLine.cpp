@@ -1,7 +1,10 @@
+#include <VellarkDomain/Capture/CaptureSignal.hpp>
 #include <VellarkLocalization/LocalizationController.hpp>
 #include <VellarkShelf/CommandLine.hpp>
 #include <VellarkShelf/Commands/Commands.hpp>
+#include <VellarkShelf/Completion/ShellCompletion.hpp>
 #include <VellarkShelf/Data/ShelfSettings.hpp>
+#include <VellarkShelf/Terminal/TerminalOutput.hpp>
 
 #include <CLI/CLI.hpp>
 
@@ -24,6 +27,8 @@ struct Request {
     Commands::ListOptions list;
     Commands::PagesOptions pages;
     std::string id;
+    std::string source;
+    std::string shell;
     std::vector<std::string> paths;
     std::function<int(const Commands::Context&)> command;
 };
@@ -66,8 +71,50 @@ void describeShelf(CLI::App& app, Request& request) {
                    [&request](const Commands::Context& context) { return Commands::inspect(context, request.paths); });
     inspect->add_option("FILE", request.paths, "Files and folders")->required();
 
+    CLI::App* hooks =
+        addCommand(app, request, "hooks", "Print the hook definition with which an agent runs the helper",
+                   [&request](const Commands::Context& context) { return Commands::hooks(context, request.source); });
+    hooks->add_option("AGENT", request.source, "One of the agents, such as claude")->required();
+
+    addCommand(app, request, "doctor", "Tell what is connected, what waits and what is wrong", Commands::doctor);
+
     app.add_subcommand("redact", "Copy standard input to standard output with every secret blanked")
         ->callback([&request] { request.command = [](const Commands::Context&) { return Commands::redact(); }; });
+}
+
+// The grammar itself tells what can be completed.
+std::vector<ShellCompletion::Command> completions(const CLI::App& app) {
+    std::vector<ShellCompletion::Command> result;
+    for (const CLI::App* command : app.get_subcommands([](const CLI::App*) { return true; })) {
+        ShellCompletion::Command entry{.name = command->get_name(), .description = command->get_description()};
+        for (const CLI::Option* option : command->get_options()) {
+            for (const std::string& name : option->get_lnames()) {
+                entry.options.push_back("--" + name);
+            }
+        }
+        if (entry.name == "hooks") {
+            for (const CaptureSignal::Source& source : CaptureSignal::sources) {
+                entry.values.emplace_back(source.identifier);
+            }
+        }
+        if (entry.name == "completion") entry.values = {"bash", "zsh", "fish"};
+        result.push_back(std::move(entry));
+    }
+    return result;
+}
+
+void describeCompletion(CLI::App& app, Request& request) {
+    CLI::App* completion = app.add_subcommand("completion", "Print the script with which a shell completes commands");
+    completion->add_option("SHELL", request.shell, "bash, zsh or fish")
+        ->required()
+        ->check(CLI::IsMember({"bash", "zsh", "fish"}));
+    completion->callback([&app, &request] {
+        request.command = [&app, &request](const Commands::Context& context) {
+            TerminalOutput output(context.environment);
+            output.write(ShellCompletion::script(request.shell, completions(app)).value_or(""));
+            return output.flush() ? 0 : 1;
+        };
+    });
 }
 
 // The language that the settings name, or else the system's.
@@ -101,6 +148,7 @@ int CommandLine::run(int argumentCount, const char* const* arguments) {
     app.add_option("-d,--data", request.directory, "The data directory, in place of VELLARK_DATA_DIR");
     app.fallthrough();
     describeShelf(app, request);
+    describeCompletion(app, request);
     try {
         app.parse(argumentCount, arguments);
     } catch (const CLI::ParseError& error) {

@@ -52,6 +52,12 @@ struct PagesOptions {
 /// Files and folders judged as if an agent had just written them, without a look at the library.
 [[nodiscard]] int inspect(const Context& context, const std::vector<std::string>& paths);
 
+/// The hook definition with which an agent runs the helper, and where it goes. Changes no file.
+[[nodiscard]] int hooks(const Context& context, const std::string& source);
+
+/// What is connected, what is missing, what waits, what is wrong.
+[[nodiscard]] int doctor(const Context& context);
+
 /// Standard input to standard output, every secret blanked. The whole input is held in memory: a secret such as a
 /// private key may run over any number of lines.
 [[nodiscard]] int redact();
