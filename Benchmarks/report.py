@@ -12,7 +12,8 @@ A row of Goals.json names a subject, our figure and the peer's in it, and what i
 
 Where no bound is set, the ratio is shown for information.
 
-A subject is a Google Benchmark program below (its figures are the names of its benchmarks) or one of processes.py. Some
+A subject is a Google Benchmark program below (its figures are the names of its benchmarks) or one of processes.py
+and shelf.py. Some
 programs have a peer in Python beside them, whose figures join theirs.
 """
 
@@ -27,6 +28,7 @@ import tempfile
 from pathlib import Path
 
 import processes
+import shelf
 
 HERE = Path(__file__).resolve().parent
 REPETITIONS = 7
@@ -147,7 +149,8 @@ def main():
 
     programs = options.programs.resolve()
     in_process = program_subjects(programs)
-    known = [*processes.SUBJECTS, *in_process]
+    of_processes = processes.SUBJECTS | shelf.SUBJECTS
+    known = [*of_processes, *in_process]
     if options.list:
         print("\n".join(known))
         return 0
@@ -165,7 +168,7 @@ def main():
             if subject in in_process:
                 figures[subject] = program_figures(in_process[subject], workplace.directory) | peer_figures(subject, workplace.directory)
             else:
-                figures[subject] = processes.SUBJECTS[subject](workplace)
+                figures[subject] = of_processes[subject](workplace)
     warn_when_busy()
 
     results = [row(goal, figures[goal["subject"]]) for goal in goals if goal["subject"] in figures]

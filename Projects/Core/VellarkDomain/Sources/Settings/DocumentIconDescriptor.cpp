@@ -1,3 +1,4 @@
+#include <VellarkDomain/Capture/FixedTextMap.hpp>
 #include <VellarkDomain/Capture/Preferences/ArtifactCategory.hpp>
 #include <VellarkDomain/Capture/Preferences/CapturePreferences.hpp>
 #include <VellarkDomain/Settings/DocumentIconDescriptor.hpp>
@@ -6,19 +7,15 @@
 #include <VellarkFoundation/Unicode/UnicodeCase.hpp>
 
 #include <algorithm>
+#include <array>
 #include <iterator>
 
 namespace vellark::DocumentIconDescriptor {
 
 namespace {
 
-struct ExtensionIcon {
-    std::string_view extension;
-    DocumentIconPreset preset;
-};
-
 // Asked before the images and the code, whose sets hold some of these too.
-constexpr ExtensionIcon extensionIcons[] = {
+constexpr FixedTextMap extensionIcons(std::to_array<FixedTextEntry<DocumentIconPreset>>({
     {"pdf", DocumentIconPreset::pdf},
     {"svg", DocumentIconPreset::vector},
     {"eps", DocumentIconPreset::vector},
@@ -83,7 +80,7 @@ constexpr ExtensionIcon extensionIcons[] = {
     {"rst", DocumentIconPreset::text},
     {"adoc", DocumentIconPreset::text},
     {"plan", DocumentIconPreset::plan},
-};
+}));
 
 // Files of code whose names have no extension, in lower case.
 constexpr std::string_view buildFiles[] = {"makefile", "dockerfile", "containerfile",
@@ -101,9 +98,7 @@ const DocumentRevision* chosenOrLast(const DocumentRecord& record, const Documen
 DocumentIconPreset presetOf(std::string_view extension) {
     if (ArtifactCategories::isMarkdownExtension(extension)) return DocumentIconPreset::markdown;
     if (ArtifactCategories::isHTMLExtension(extension)) return DocumentIconPreset::html;
-    for (const ExtensionIcon& row : extensionIcons) {
-        if (row.extension == extension) return row.preset;
-    }
+    if (const DocumentIconPreset* preset = extensionIcons.find(extension)) return *preset;
     if (holds(ArtifactCategories::fileExtensions(ArtifactCategory::images), extension)) {
         return DocumentIconPreset::image;
     }

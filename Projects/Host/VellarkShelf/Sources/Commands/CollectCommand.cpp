@@ -82,7 +82,11 @@ int collectOnce(const Commands::Context& context, const Commands::CollectOptions
     if (context.json) {
         if (report.signalCount > 0 || !options.watch) (void)Commands::writeJSON(output, collected);
     } else {
-        ShelfTable::write(output, collected.documents);
+        ShelfTable::Lines lines;
+        for (const ShelfLine& line : collected.documents) {
+            lines.push_back(&line);
+        }
+        ShelfTable::write(output, lines);
         if (output.isTerminal()) writeLeftOut(output, collected);
     }
     return output.flush() ? status : Commands::failed;

@@ -7,6 +7,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <limits>
 
@@ -17,26 +18,29 @@ DigestCache DigestCache::read(const DataDirectory& directory) {
     const auto text = BoundedFile::read(cache.path_, std::numeric_limits<std::uint32_t>::max());
     if (!text) return cache;
     std::string_view rest = *text;
+    cache.byRevision_.reserve(static_cast<std::size_t>(std::count(rest.begin(), rest.end(), '\n')));
     while (!rest.empty()) {
         const std::size_t end = std::min(rest.find('\n'), rest.size());
-        if (auto digest = readRecord<DocumentDigest>(rest.substr(0, end))) {
-            std::string revision = digest->revision;
-            cache.digests_.insert_or_assign(std::move(revision), *std::move(digest));
-        }
+        if (auto digest = readRecord<DocumentDigest>(rest.substr(0, end))) cache.index(*std::move(digest));
         rest.remove_prefix(std::min(end + 1, rest.size()));
     }
     return cache;
 }
 
 const DocumentDigest* DigestCache::find(std::string_view revision) const {
-    const auto found = digests_.find(std::string(revision));
-    return found == digests_.end() ? nullptr : &found->second;
+    const auto found = byRevision_.find(revision);
+    return found == byRevision_.end() ? nullptr : found->second;
+}
+
+void DigestCache::index(DocumentDigest digest) {
+    digests_.push_back(std::move(digest));
+    const DocumentDigest& kept = digests_.back();
+    byRevision_.insert_or_assign(kept.revision, &kept);
 }
 
 void DigestCache::add(DocumentDigest digest) {
     if (const auto line = writeRecord(digest)) added_ += *line + "\n";
-    std::string revision = digest.revision;
-    digests_.insert_or_assign(std::move(revision), std::move(digest));
+    index(std::move(digest));
 }
 
 bool DigestCache::save() {

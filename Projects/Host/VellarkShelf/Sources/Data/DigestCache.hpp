@@ -3,6 +3,7 @@
 #include <VellarkShelf/Data/DataDirectory.hpp>
 #include <VellarkShelf/Shelf/DocumentDigest.hpp>
 
+#include <deque>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -28,10 +29,13 @@ public:
     bool save();
 
 private:
+    void index(DocumentDigest digest);
+
     explicit DigestCache(std::string path) : path_(std::move(path)) {}
 
     std::string path_;
-    std::unordered_map<std::string, DocumentDigest> digests_;
+    std::deque<DocumentDigest> digests_;  // at addresses that stay
+    std::unordered_map<std::string_view, const DocumentDigest*> byRevision_;
     std::string added_;  // lines that the file lacks
 };
 

@@ -24,9 +24,10 @@ struct Columns {
     std::size_t title = narrowestTitle;
 };
 
-Columns columnsFor(std::span<const ShelfLine> lines, std::size_t width) {
+Columns columnsFor(const Lines& lines, std::size_t width) {
     Columns columns;
-    for (const ShelfLine& line : lines) {
+    for (const ShelfLine* shown : lines) {
+        const ShelfLine& line = *shown;
         columns.kind = std::max(columns.kind, std::min(DisplayWidth::columns(line.kindTitle), widestKind));
         columns.source = std::max(columns.source, std::min(DisplayWidth::columns(line.sourceTitle), widestSource));
         columns.age = std::max(columns.age, std::min(DisplayWidth::columns(line.age), widestAge));
@@ -40,10 +41,11 @@ std::string blanks(std::size_t count) {
     return std::string(count, ' ');
 }
 
-void writeForTerminal(TerminalOutput& output, std::span<const ShelfLine> lines) {
+void writeForTerminal(TerminalOutput& output, const Lines& lines) {
     const Columns columns = columnsFor(lines, output.width());
     const std::size_t indent = identifierColumns + columns.kind + 2 * gap;
-    for (const ShelfLine& line : lines) {
+    for (const ShelfLine* shown : lines) {
+        const ShelfLine& line = *shown;
         output.line(output.dim(padded(std::string_view(line.id).substr(0, identifierColumns), identifierColumns)) +
                     blanks(gap) + output.accent(padded(line.kindTitle, columns.kind)) + blanks(gap) +
                     output.bold(padded(harmless(line.title), columns.title)) + blanks(gap) +
@@ -56,23 +58,31 @@ void writeForTerminal(TerminalOutput& output, std::span<const ShelfLine> lines) 
 }
 
 // Without tabs and line ends, which divide fields and lines.
-std::string field(std::string_view text) {
-    std::string result(text);
-    std::replace_if(
-        result.begin(), result.end(), [](char byte) { return byte == '\t' || byte == '\n' || byte == '\r'; }, ' ');
-    return result;
+void writeField(TerminalOutput& output, std::string_view text) {
+    constexpr std::string_view dividers = "\t\n\r";
+    for (std::size_t end = text.find_first_of(dividers); end != std::string_view::npos;
+         end = text.find_first_of(dividers)) {
+        output.write(text.substr(0, end));
+        output.write(" ");
+        text.remove_prefix(end + 1);
+    }
+    output.write(text);
 }
 
-void writePlainly(TerminalOutput& output, std::span<const ShelfLine> lines) {
-    for (const ShelfLine& line : lines) {
-        output.line(line.id + "\t" + field(line.kindTitle) + "\t" + field(line.title) + "\t" + field(line.headline) +
-                    "\t" + field(line.sourceTitle) + "\t" + line.age);
+void writePlainly(TerminalOutput& output, const Lines& lines) {
+    for (const ShelfLine* shown : lines) {
+        const ShelfLine& line = *shown;
+        for (const std::string* text : {&line.id, &line.kindTitle, &line.title, &line.headline, &line.sourceTitle}) {
+            writeField(output, *text);
+            output.write("\t");
+        }
+        output.line(line.age);
     }
 }
 
 }  // namespace
 
-void write(TerminalOutput& output, std::span<const ShelfLine> lines) {
+void write(TerminalOutput& output, const Lines& lines) {
     output.isTerminal() ? writeForTerminal(output, lines) : writePlainly(output, lines);
 }
 

@@ -3,7 +3,7 @@
 #include <VellarkShelf/Shelf/ShelfLine.hpp>
 #include <VellarkShelf/Terminal/TerminalOutput.hpp>
 
-#include <span>
+#include <vector>
 
 namespace vellark {
 
@@ -11,7 +11,9 @@ namespace vellark {
 /// line for each document, its fields divided by tabs: identifier, kind, title, headline, source, age.
 namespace ShelfTable {
 
-void write(TerminalOutput& output, std::span<const ShelfLine> lines);
+using Lines = std::vector<const ShelfLine*>;
+
+void write(TerminalOutput& output, const Lines& lines);
 
 }  // namespace ShelfTable
 
