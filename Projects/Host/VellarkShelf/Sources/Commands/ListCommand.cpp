@@ -1,4 +1,3 @@
-#include <VellarkFoundation/Concurrency/ParallelLoop.hpp>
 #include <VellarkShelf/Commands/CommandSupport.hpp>
 #include <VellarkShelf/Data/DigestCache.hpp>
 #include <VellarkShelf/Shelf/ShelfLine.hpp>
@@ -6,8 +5,10 @@
 
 #include <algorithm>
 #include <array>
+#include <deque>
 #include <future>
 #include <utility>
+#include <vector>
 
 namespace vellark {
 
@@ -35,79 +36,81 @@ MomentKey momentKey(std::string_view moment) {
     return key;
 }
 
-// A document that is to be shown, in the library's order: so that its memory is walked from one end to the other.
-struct Entry {
-    MomentKey moment;
-    const DocumentRecord* document = nullptr;
-    std::size_t place = 0;  // of its line
-};
+// The lines of the documents that are asked for, made one after the other while the library is looked through.
+class Listing {
+public:
+    // The digests are read while the library is.
+    Listing(const Commands::Context& context, const Commands::ListOptions& options, std::optional<DocumentKind> kind)
+        : options_(options),
+          kind_(kind),
+          reading_(std::async(std::launch::async, [&context] { return DigestCache::read(context.directory); })),
+          lines_(Commands::now()) {}
 
-// Documents of one moment keep the library's order.
-bool isLater(const Entry& left, const Entry& right) {
-    return left.moment != right.moment ? left.moment > right.moment : left.place < right.place;
-}
-
-std::vector<Entry> chosenEntries(const CaptureLibrary& library, const Commands::ListOptions& options) {
-    std::vector<Entry> entries;
-    entries.reserve(library.documents.size());
-    for (const DocumentRecord& document : library.documents) {
-        if (!belongsTo(document, options.project)) continue;
-        entries.push_back({momentKey(document.updatedAt), &document, entries.size()});
+    void add(const DocumentRecord& document) {
+        if (!belongsTo(document, options_.project)) return;
+        ShelfLine line = lines_.line(document, digestOf(document));
+        if (kind_ && line.kind != kind_) return;
+        order_.push_back({momentKey(document.updatedAt), shown_.size()});
+        shown_.push_back(std::move(line));
     }
-    if (options.limit && !options.kind && *options.limit < entries.size()) {
-        const auto end = entries.begin() + static_cast<std::ptrdiff_t>(*options.limit);
-        std::nth_element(entries.begin(), end, entries.end(), isLater);
-        entries.erase(end, entries.end());
-        for (std::size_t place = 0; place < entries.size(); ++place) {
-            entries[place].place = place;
+
+    void clear() {
+        order_.clear();
+        shown_.clear();
+    }
+
+    // The latest first; documents of one moment keep the library's order.
+    [[nodiscard]] ShelfTable::Lines latestFirst() {
+        std::sort(order_.begin(), order_.end(), [](const Place& left, const Place& right) {
+            return left.moment != right.moment ? left.moment > right.moment : left.index < right.index;
+        });
+        ShelfTable::Lines lines;
+        for (const Place& place : order_) {
+            if (lines.size() == options_.limit.value_or(order_.size())) break;
+            lines.push_back(&shown_[place.index]);
         }
+        return lines;
     }
-    return entries;
-}
 
-// A line, and its document's digest if that was not known.
-struct MadeLine {
-    ShelfLine line;
-    std::optional<DocumentDigest> digest;
+    // Keeps the digests that were made, so that they need not be made again.
+    void save() {
+        if (digests_) (void)digests_->save();
+    }
+
+private:
+    struct Place {
+        MomentKey moment;
+        std::size_t index = 0;
+    };
+
+    const DocumentDigest* digestOf(const DocumentRecord& document) {
+        const DocumentRevision* latest = document.latestRevision();
+        if (latest == nullptr) return nullptr;
+        if (!digests_) digests_ = reading_.get();
+        if (const DocumentDigest* known = digests_->find(latest->id)) return known;
+        digests_->add(madeDigest(document));
+        return digests_->find(latest->id);
+    }
+
+    const Commands::ListOptions& options_;
+    std::optional<DocumentKind> kind_;
+    std::future<DigestCache> reading_;
+    std::optional<DigestCache> digests_;
+    ShelfLines lines_;
+    std::deque<ShelfLine> shown_;  // grows without moving what is there
+    std::vector<Place> order_;
 };
 
-MadeLine madeLine(ShelfLines& lines, const DocumentRecord& document, const DigestCache& digests) {
-    MadeLine result;
-    const DocumentRevision* latest = document.latestRevision();
-    const DocumentDigest* digest = latest != nullptr ? digests.find(latest->id) : nullptr;
-    if (digest == nullptr && latest != nullptr) digest = &result.digest.emplace(madeDigest(document));
-    result.line = lines.line(document, digest);
-    return result;
+// Shows every document of the library to the listing. False, and told, when there is a library that cannot be read.
+bool lookThrough(const Commands::Context& context, Listing& listing) {
+    const auto add = [&listing](const DocumentRecord& document) { listing.add(document); };
+    if (LibraryFile::visit(context.directory.library(), add)) return true;
+    listing.clear();
+    const auto library = Commands::readLibrary(context);
+    if (!library) return false;
+    std::for_each(library->documents.begin(), library->documents.end(), add);
+    return true;
 }
-
-// The lines of the entries, made on all cores.
-std::vector<MadeLine> madeLines(const std::vector<Entry>& entries, const DigestCache& digests) {
-    constexpr std::size_t chunkSize = 2'048;
-    const Date now = Commands::now();
-    std::vector<MadeLine> made(entries.size());
-    ParallelLoop::run((entries.size() + chunkSize - 1) / chunkSize, [&](std::size_t chunk) {
-        ShelfLines lines(now);
-        const std::size_t end = std::min(entries.size(), (chunk + 1) * chunkSize);
-        for (std::size_t place = chunk * chunkSize; place < end; ++place) {
-            made[place] = madeLine(lines, *entries[place].document, digests);
-        }
-    });
-    return made;
-}
-
-// The process ends behind the list, and so its library and digests are never freed: for a hundred thousand documents
-// that would take longer than to print them. They are read at the same time.
-struct Shelf {
-    std::optional<CaptureLibrary> library;
-    DigestCache digests;
-
-    static Shelf& read(const Commands::Context& context) {
-        auto digests = std::async(std::launch::async, [&context] { return DigestCache::read(context.directory); });
-        auto library = Commands::readLibrary(context);
-        static Shelf& shelf = *new Shelf{std::move(library), digests.get()};
-        return shelf;
-    }
-};
 
 }  // namespace
 
@@ -117,19 +120,10 @@ int Commands::list(const Context& context, const ListOptions& options) {
         kind = fromRawValue<DocumentKind>(*options.kind);
         if (!kind) return problem("there is no kind " + *options.kind);
     }
-    auto& [library, digests] = Shelf::read(context);
-    if (!library) return failed;
-    std::vector<Entry> entries = chosenEntries(*library, options);
-    auto made = madeLines(entries, digests);
-    std::sort(entries.begin(), entries.end(), isLater);
-    ShelfTable::Lines shown;
-    for (const Entry& entry : entries) {
-        MadeLine& one = made[entry.place];
-        if (one.digest) digests.add(*std::move(one.digest));
-        const bool isWanted = (!kind || one.line.kind == kind) && shown.size() < options.limit.value_or(entries.size());
-        if (isWanted) shown.push_back(&one.line);
-    }
-    (void)digests.save();  // what was made now need not be made again
+    Listing listing(context, options, kind);
+    if (!lookThrough(context, listing)) return failed;
+    const ShelfTable::Lines shown = listing.latestFirst();
+    listing.save();
     TerminalOutput output(context.environment);
     if (!context.json) {
         ShelfTable::write(output, shown);

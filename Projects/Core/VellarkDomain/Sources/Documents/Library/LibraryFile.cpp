@@ -1,8 +1,11 @@
 #include <VellarkDomain/Documents/Library/LibraryFile.hpp>
 #include <VellarkFoundation/Files/AtomicFile.hpp>
 #include <VellarkFoundation/Identifiers/UUID.hpp>
+#include <VellarkFoundation/JSON/JSONCursor.hpp>
+#include <VellarkFoundation/Records/DirectRecordReader.hpp>
 #include <VellarkFoundation/Records/RecordReader.hpp>
 #include <VellarkFoundation/Records/RecordWriter.hpp>
+#include <VellarkFoundation/Text/UTF8.hpp>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -46,8 +49,11 @@ tl::unexpected<LibraryFileError> damaged(const DecodingError& damage) {
 }
 
 struct FileText {
-    std::string text;
+    std::unique_ptr<char[]> bytes;  // not filled beforehand, as a string would be
+    std::size_t length = 0;
     Stamp stamp;
+
+    [[nodiscard]] std::string_view text() const { return {bytes.get(), length}; }
 };
 
 Result<FileText, LibraryFileError> readText(const std::string& path) {
@@ -56,16 +62,16 @@ Result<FileText, LibraryFileError> readText(const std::string& path) {
     struct stat status {};
     if (::fstat(file.get(), &status) != 0) return systemFailure(Reason::unreadable, errno);
     if (!S_ISREG(status.st_mode)) return systemFailure(Reason::unreadable, EINVAL);
-    FileText result{.text = std::string(static_cast<std::size_t>(status.st_size), '\0'), .stamp = stampOf(status)};
-    std::size_t length = 0;
-    while (length < result.text.size()) {
-        const ssize_t count = ::read(file.get(), result.text.data() + length, result.text.size() - length);
+    const auto size = static_cast<std::size_t>(status.st_size);
+    FileText result{.bytes = std::make_unique_for_overwrite<char[]>(size), .stamp = stampOf(status)};
+    while (result.length < size) {
+        const ssize_t count = ::read(file.get(), result.bytes.get() + result.length, size - result.length);
         if (count < 0 && errno == EINTR) continue;
         if (count < 0) return systemFailure(Reason::unreadable, errno);
         if (count == 0) break;
-        length += static_cast<std::size_t>(count);
+        result.length += static_cast<std::size_t>(count);
     }
-    result.text.resize(length);  // another program cut it meanwhile: then it is damaged, and said to be
+    // Where another program cut it meanwhile it is shorter: then it is damaged, and said to be.
     return result;
 }
 
@@ -124,9 +130,26 @@ void flushFolder(const std::string& path) {
 Result<Contents, LibraryFileError> LibraryFile::read(const std::string& path) {
     const auto file = readText(path);
     if (!file) return failure(file.error());
-    auto library = readRecord<CaptureLibrary>(std::string_view(file->text));
+    auto library = readRecord<CaptureLibrary>(file->text());
     if (!library) return damaged(library.error());
     return Contents{.library = *std::move(library), .stamp = file->stamp};
+}
+
+bool LibraryFile::visit(const std::string& path, const std::function<void(const DocumentRecord&)>& visitor) {
+    const auto file = readText(path);
+    if (!file || !UTF8::isValid(file->text())) return false;
+    JSONCursor cursor(file->text());
+    std::int64_t version = 0;
+    const bool hasHead = cursor.open('{') && cursor.takeKey("version") && cursor.integer(version) &&
+                         cursor.endMember() && cursor.takeKey("documents") && cursor.open('[');
+    if (!hasHead) return false;
+    DocumentRecord document;  // one for all, so that its memory is used again
+    while (!cursor.isAt(']')) {
+        if (!readDirectly(cursor, document)) return false;
+        visitor(document);
+        if (!cursor.endElement()) return false;
+    }
+    return cursor.close(']') && cursor.endMember() && cursor.close('}') && cursor.isAtEnd();
 }
 
 Result<Stamp, LibraryFileError> LibraryFile::write(const CaptureLibrary& library, const std::string& path,

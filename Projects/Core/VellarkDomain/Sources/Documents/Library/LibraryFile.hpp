@@ -5,6 +5,7 @@
 #include <VellarkFoundation/Result.hpp>
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -46,6 +47,12 @@ struct Contents {
 
 /// The library at the path, all of it or none. A damaged file is left as it is.
 [[nodiscard]] Result<Contents, LibraryFileError> read(const std::string& path);
+
+/// Calls the function with each document of the file, in its order and one at a time: a library of hundreds of
+/// megabytes is looked through in the memory of its text. False when there is no such file, or it is not as `write`
+/// leaves one; the documents that were visited then do not count, and `read` tells what is wrong or reads it all the
+/// same.
+[[nodiscard]] bool visit(const std::string& path, const std::function<void(const DocumentRecord&)>& visitor);
 
 /// Puts the library in the place of the file, which nobody ever sees half written: the bytes go into a temporary file
 /// of the same folder, onto the disk, and then there in one step. Whatever fails, the old file stays as it was. A link

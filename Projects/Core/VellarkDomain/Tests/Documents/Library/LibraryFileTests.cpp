@@ -112,5 +112,33 @@ TEST(LibraryFile, aLinkStaysALink) {
     EXPECT_EQ(LibraryFile::read(folder / "real/library.json")->library, sample(1));
 }
 
+// One at a time gives the same documents as all at once, for every file that the writer leaves; for all others it says
+// that it does not know.
+TEST(LibraryFileTests, documentsOneAtATime) {
+    const testing::TemporaryDirectory directory;
+    const std::string path = (directory / "library.json").string();
+    CaptureLibrary library;
+    for (int number = 0; number < 50; ++number) {
+        DocumentRecord record{
+            .id = std::to_string(number), .title = "T\n\"" + std::to_string(number), .kind = "markdown"};
+        if (number % 3 == 0) record.revisions.push_back({.id = "r", .contentHash = "h"});
+        if (number % 7 == 0) record.sourcePath = "/a/b.md";
+        library.documents.push_back(std::move(record));
+    }
+    ASSERT_TRUE(LibraryFile::write(library, path));
+    std::vector<DocumentRecord> visited;
+    const auto visitor = [&visited](const DocumentRecord& document) { visited.push_back(document); };
+    EXPECT_TRUE(LibraryFile::visit(path, visitor));
+    EXPECT_EQ(visited, library.documents);
+    const std::string text = testing::readFile(path);
+    for (const std::string& other :
+         {std::string(), std::string("[]"), text + "x", text.substr(0, text.size() / 2),
+          std::string(R"({"documents":[],"version":1})"), std::string(R"({"version":1,"documents":[],"more":1})")}) {
+        testing::writeFile(path, other);
+        EXPECT_FALSE(LibraryFile::visit(path, visitor)) << other.substr(0, 40);
+    }
+    EXPECT_FALSE(LibraryFile::visit((directory / "none").string(), visitor));
+}
+
 }  // namespace
 }  // namespace vellark
