@@ -144,6 +144,7 @@ int CommandLine::run(int argumentCount, const char* const* arguments) {
     std::signal(SIGPIPE, SIG_IGN);
     CLI::App app("The shelf of the documents that your agents write.", "vellark");
     app.require_subcommand(1);
+    app.set_version_flag("--version", "vellark " VELLARK_VERSION);
     Request request;
     app.add_option("-d,--data", request.directory, "The data directory, in place of VELLARK_DATA_DIR");
     app.fallthrough();

@@ -1,5 +1,7 @@
 #include "Support/ShelfFixture.hpp"
 
+#include <sstream>
+
 namespace vellark {
 namespace {
 
@@ -71,6 +73,25 @@ TEST_F(HooksCommandTests, shellsReadTheirScripts) {
     EXPECT_EQ(run->output, "claude\n") << run->errors;
     EXPECT_EQ(vellark({"completion", "tcsh"}).status, 2);
     EXPECT_NE(vellark({"completion", "fish"}).output.find("-a collect"), std::string::npos);
+}
+
+// The manual names each command, and each of its options but for help.
+TEST_F(HooksCommandTests, theManualIsWhole) {
+    std::string manual = testing::readFile(VELLARK_MANUAL);
+    std::erase(manual, '\\');
+    std::istringstream lines(vellark({"completion", "fish"}).output);
+    int count = 0;
+    for (std::string line; std::getline(lines, line);) {
+        for (const std::string_view mark : {" -f -a ", " -l "}) {
+            const std::size_t place = line.find(mark);
+            if (place == std::string::npos || line.find("-f -a '") != std::string::npos) continue;
+            const std::string word =
+                line.substr(place + mark.size(), line.find(' ', place + mark.size()) - place - mark.size());
+            EXPECT_NE(manual.find(mark == " -l " ? "--" + word : word), std::string::npos) << line;
+            ++count;
+        }
+    }
+    EXPECT_GT(count, 20);
 }
 
 }  // namespace
