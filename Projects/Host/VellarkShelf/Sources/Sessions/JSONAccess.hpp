@@ -1,0 +1,41 @@
+#pragma once
+
+#include <VellarkDomain/Capture/Rules/CaptureEventTimes.hpp>
+#include <VellarkFoundation/JSON/JSONValue.hpp>
+#include <VellarkFoundation/Time/Date.hpp>
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace vellark {
+
+// Shorthand for readers of other programs' JSON, where a value of another type counts as absent.
+
+/// The text under a key; "" when there is none. A view into the object.
+[[nodiscard]] inline std::string_view textIn(const JSONObject& object, std::string_view key) {
+    const std::string* text = stringIn(object, key);
+    return text != nullptr ? std::string_view(*text) : std::string_view();
+}
+
+/// The first of the keys that has a text.
+template <class... Keys>
+[[nodiscard]] std::string firstTextIn(const JSONObject& object, Keys... keys) {
+    for (const std::string_view key : {std::string_view(keys)...}) {
+        if (const std::string_view text = textIn(object, key); !text.empty()) return std::string(text);
+    }
+    return "";
+}
+
+[[nodiscard]] inline bool isTrueIn(const JSONObject& object, std::string_view key) {
+    const JSONValue* value = object.find(key);
+    return value != nullptr && value->boolean() != nullptr && *value->boolean();
+}
+
+/// The moment of an ISO 8601 text under a key.
+[[nodiscard]] inline std::optional<Date> momentIn(const JSONObject& object, std::string_view key) {
+    const auto seconds = CaptureRules::eventSeconds(textIn(object, key));
+    return seconds ? std::optional(Date{*seconds}) : std::nullopt;
+}
+
+}  // namespace vellark

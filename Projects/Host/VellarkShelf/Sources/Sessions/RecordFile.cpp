@@ -1,0 +1,102 @@
+#include <VellarkShelf/Sessions/RecordFile.hpp>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+
+namespace vellark {
+
+namespace {
+
+constexpr std::size_t pieceSize = 256 * 1024;
+
+std::vector<std::int64_t> fingerprintOf(const struct stat& status) {
+#ifdef __APPLE__
+    const timespec& modified = status.st_mtimespec;
+#else
+    const timespec& modified = status.st_mtim;
+#endif
+    return {static_cast<std::int64_t>(status.st_size),
+            static_cast<std::int64_t>(modified.tv_sec) * 1'000'000'000 + modified.tv_nsec,
+            static_cast<std::int64_t>(status.st_ino), static_cast<std::int64_t>(status.st_dev)};
+}
+
+}  // namespace
+
+std::optional<RecordFile> RecordFile::open(const std::string& path) {
+    FileDescriptor file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOFOLLOW | O_NOCTTY | O_CLOEXEC));
+    struct stat status {};
+    if (!file.isOpen() || ::fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode)) return std::nullopt;
+    return RecordFile(std::move(file), fingerprintOf(status));
+}
+
+std::size_t RecordFile::read(std::int64_t offset, char* buffer, std::size_t room) const {
+    for (;;) {
+        const ssize_t count = ::pread(file_.get(), buffer, room, static_cast<off_t>(offset));
+        if (count >= 0) return static_cast<std::size_t>(count);
+        if (errno != EINTR) return 0;
+    }
+}
+
+// The buffer holds the bytes from `start` of the file on. A line that outgrows it makes it grow, up to the longest line;
+// of what is longer still, pieces are dropped until its end comes.
+void RecordFile::walk(std::int64_t from, const Visitor& visit) const {
+    const std::int64_t fileEnd = fingerprint_.front();
+    std::string buffer(pieceSize, '\0');
+    std::size_t filled = 0;
+    std::size_t searched = 0;
+    bool skipping = false;
+    for (std::int64_t start = from; start + static_cast<std::int64_t>(filled) < fileEnd || filled > 0;) {
+        const std::int64_t next = start + static_cast<std::int64_t>(filled);
+        if (filled == buffer.size()) buffer.resize(2 * buffer.size());
+        const auto room = static_cast<std::size_t>(
+            std::min<std::int64_t>(static_cast<std::int64_t>(buffer.size() - filled), fileEnd - next));
+        const std::size_t count = room == 0 ? 0 : read(next, buffer.data() + filled, room);
+        filled += count;
+
+        std::size_t lineStart = 0;
+        while (const void* found = std::memchr(buffer.data() + searched, '\n', filled - searched)) {
+            const auto lineEnd = static_cast<std::size_t>(static_cast<const char*>(found) - buffer.data());
+            const Line line{std::string_view(buffer).substr(lineStart, lineEnd - lineStart),
+                            start + static_cast<std::int64_t>(lineStart)};
+            if (!skipping && !line.text.empty() && !visit(line)) return;
+            skipping = false;
+            lineStart = searched = lineEnd + 1;
+        }
+        if (count == 0) {
+            const Line rest{std::string_view(buffer).substr(lineStart, filled - lineStart),
+                            start + static_cast<std::int64_t>(lineStart)};
+            if (!skipping && !rest.text.empty()) visit(rest);
+            return;
+        }
+        filled -= lineStart;
+        std::memmove(buffer.data(), buffer.data() + lineStart, filled);
+        start += static_cast<std::int64_t>(lineStart);
+        if (filled > longestLine) {
+            start += static_cast<std::int64_t>(filled);
+            filled = 0;
+            skipping = true;
+        }
+        searched = filled;
+    }
+}
+
+std::optional<std::string> RecordFile::content(std::size_t maximumBytes) const {
+    const auto size = static_cast<std::size_t>(fingerprint_.front());
+    if (size > maximumBytes) return std::nullopt;
+    std::string text(size, '\0');
+    std::size_t done = 0;
+    while (done < size) {
+        const std::size_t count = read(static_cast<std::int64_t>(done), text.data() + done, size - done);
+        if (count == 0) break;
+        done += count;
+    }
+    text.resize(done);
+    return text;
+}
+
+}  // namespace vellark
