@@ -26,6 +26,7 @@ struct Request {
     Commands::CollectOptions collect;
     Commands::ListOptions list;
     Commands::PagesOptions pages;
+    Commands::ConversationOptions conversation;
     std::string id;
     std::string source;
     std::string shell;
@@ -70,6 +71,16 @@ void describeShelf(CLI::App& app, Request& request) {
         addCommand(app, request, "inspect", "Judge files and folders as if an agent had just written them",
                    [&request](const Commands::Context& context) { return Commands::inspect(context, request.paths); });
     inspect->add_option("FILE", request.paths, "Files and folders")->required();
+
+    addCommand(app, request, "conversations", "List the conversations with agents, the latest first",
+               Commands::conversations);
+
+    CLI::App* conversation = addCommand(
+        app, request, "conversation", "Show one conversation: its tasks and what was said",
+        [&request](const Commands::Context& context) { return Commands::conversation(context, request.conversation); });
+    conversation->add_option("ID", request.conversation.id, "The conversation's identifier, or its beginning")
+        ->required();
+    conversation->add_flag("-m,--markdown", request.conversation.markdown, "Write it as a Markdown document");
 
     CLI::App* hooks =
         addCommand(app, request, "hooks", "Print the hook definition with which an agent runs the helper",

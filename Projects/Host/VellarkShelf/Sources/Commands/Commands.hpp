@@ -52,6 +52,17 @@ struct PagesOptions {
 /// Files and folders judged as if an agent had just written them, without a look at the library.
 [[nodiscard]] int inspect(const Context& context, const std::vector<std::string>& paths);
 
+/// The conversations with agents of the last seven days, the latest first.
+[[nodiscard]] int conversations(const Context& context);
+
+struct ConversationOptions {
+    std::string id;         ///< of the conversation or of its thread, or the beginning of either
+    bool markdown = false;  ///< as a document, in place of a view
+};
+
+/// One conversation: its tasks and what was said. Secrets are blanked.
+[[nodiscard]] int conversation(const Context& context, const ConversationOptions& options);
+
 /// The hook definition with which an agent runs the helper, and where it goes. Changes no file.
 [[nodiscard]] int hooks(const Context& context, const std::string& source);
 

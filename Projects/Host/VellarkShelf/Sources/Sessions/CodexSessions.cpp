@@ -87,8 +87,10 @@ private:
             const JSONObject* block = blocks->at(place).object();
             std::string text = block != nullptr ? firstTextIn(*block, "text") : "";
             if (text.empty()) continue;
-            if (textIn(item, "role") == "user") send(SessionEvent::UserTurn{std::move(text)});
-            else if (textIn(item, "role") == "assistant") send(SessionEvent::AgentText{std::move(text)});
+            if (textIn(item, "role") == "user")
+                send(SessionEvent::UserTurn{std::move(text)});
+            else if (textIn(item, "role") == "assistant")
+                send(SessionEvent::AgentText{std::move(text)});
         }
     }
 

@@ -42,8 +42,8 @@ std::size_t RecordFile::read(std::int64_t offset, char* buffer, std::size_t room
     }
 }
 
-// The buffer holds the bytes from `start` of the file on. A line that outgrows it makes it grow, up to the longest line;
-// of what is longer still, pieces are dropped until its end comes.
+// The buffer holds the bytes from `start` of the file on. A line that outgrows it makes it grow, up to the longest
+// line; of what is longer still, pieces are dropped until its end comes.
 void RecordFile::walk(std::int64_t from, const Visitor& visit) const {
     const std::int64_t fileEnd = fingerprint_.front();
     std::string buffer(pieceSize, '\0');

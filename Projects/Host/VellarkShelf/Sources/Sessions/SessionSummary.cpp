@@ -128,7 +128,8 @@ SessionSummary SessionSummary::read(const SessionAgent& agent, const std::string
                                     const std::optional<std::string>& configHome, const RecordFile& file) {
     SessionSummary summary{.path = path, .fingerprint = file.fingerprint(), .session = {}, .delegations = {}};
     SummaryBuilder builder(agent, path);
-    agent.read(file, {.detail = SessionDetail::summary}, [&builder](SessionEvent&& event) { builder.take(std::move(event)); });
+    agent.read(file, {.detail = SessionDetail::summary},
+               [&builder](SessionEvent&& event) { builder.take(std::move(event)); });
     builder.finish(summary);
     if (summary.session) {
         summary.session->fingerprint = summary.fingerprint;
@@ -139,10 +140,10 @@ SessionSummary SessionSummary::read(const SessionAgent& agent, const std::string
 
 std::string subagentName(const SessionEvent::Delegation& delegation) {
     constexpr std::string_view sayingNothing[] = {"", "general-purpose", "default", "worker"};
-    const bool hasType = std::find(std::begin(sayingNothing), std::end(sayingNothing), delegation.type) ==
-                         std::end(sayingNothing);
-    const std::string& name = !delegation.name.empty() ? delegation.name
-                              : hasType               ? delegation.type
+    const bool hasType =
+        std::find(std::begin(sayingNothing), std::end(sayingNothing), delegation.type) == std::end(sayingNothing);
+    const std::string& name = !delegation.name.empty()  ? delegation.name
+                              : hasType                 ? delegation.type
                               : delegation.task.empty() ? delegation.prompt
                                                         : delegation.task;
     return ConversationText::title(ConversationText::redact(name));

@@ -10,8 +10,8 @@
 
 namespace vellark {
 
-/// Work that one record hands to a subagent whose record is another file. The caller's record knows call, name and task,
-/// the subagent's knows neither; both are brought together when all files have been read.
+/// Work that one record hands to a subagent whose record is another file. The caller's record knows call, name and
+/// task, the subagent's knows neither; both are brought together when all files have been read.
 struct SessionDelegation {
     std::string callID;
     std::string threadID;  ///< of the subagent; "" while the record does not tell

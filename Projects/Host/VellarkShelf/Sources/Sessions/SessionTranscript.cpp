@@ -47,10 +47,8 @@ private:
                     .time = event_->time,
                     .text = excerpt.text,
                     .isTruncated = excerpt.isTruncated};
-        entry.location = ConversationTextLocation{.agent = session_.agent,
-                                                  .path = session_.path,
-                                                  .offset = event_->offset,
-                                                  .part = event_->part};
+        entry.location = ConversationTextLocation{
+            .agent = session_.agent, .path = session_.path, .offset = event_->offset, .part = event_->part};
         if (isSubagents_) {
             entry.topic = ownName();
             entry.location->session = session_.threadID;

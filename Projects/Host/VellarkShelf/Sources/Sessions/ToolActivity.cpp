@@ -12,8 +12,8 @@ namespace {
 using namespace std::string_view_literals;
 using Status = ConversationTodo::Status;
 
-constexpr std::array shellTools = {"Bash"sv,         "shell"sv,          "shell_command"sv,    "exec_command"sv,
-                                   "local_shell"sv,  "container.exec"sv, "run_shell_command"sv};
+constexpr std::array shellTools = {"Bash"sv,        "shell"sv,          "shell_command"sv,    "exec_command"sv,
+                                   "local_shell"sv, "container.exec"sv, "run_shell_command"sv};
 constexpr std::array editTools = {"Edit"sv, "Write"sv, "MultiEdit"sv, "NotebookEdit"sv, "write_file"sv, "replace"sv};
 constexpr std::array planTools = {"TodoWrite"sv, "update_plan"sv, "write_todos"sv};
 
@@ -28,7 +28,8 @@ std::string commandLine(const JSONObject& input) {
     if (!text.empty()) return text;
     const JSONArray* words = arrayIn(input, "command");
     if (words == nullptr) return "";
-    const bool isScript = words->size() == 3 && words->at(1).string() != nullptr && words->at(1).string()->starts_with("-");
+    const bool isScript =
+        words->size() == 3 && words->at(1).string() != nullptr && words->at(1).string()->starts_with("-");
     std::string line;
     for (std::size_t place = isScript ? 2 : 0; place < words->size(); ++place) {
         if (const std::string* word = words->at(place).string()) line += (line.empty() ? "" : " ") + *word;
@@ -48,8 +49,8 @@ ConversationTodoUpdate snapshot(const JSONObject& input) {
     for (std::size_t place = 0; items != nullptr && place < items->size(); ++place) {
         const JSONObject* item = items->at(place).object();
         if (item == nullptr) continue;
-        list.todos.push_back(
-            {.text = firstTextIn(*item, "content", "step", "description"), .status = statusOf(textIn(*item, "status"))});
+        list.todos.push_back({.text = firstTextIn(*item, "content", "step", "description"),
+                              .status = statusOf(textIn(*item, "status"))});
     }
     return {std::move(list)};
 }
