@@ -124,4 +124,51 @@ def listing(workplace):
     return figures
 
 
-SUBJECTS = {"shelf-collect": collect, "shelf-list": listing}
+def write_gigabyte(home):
+    """A gigabyte of Claude's records: twenty megabytes made with care, then copied under other sessions' names."""
+    subprocess.run([sys.executable, HERE / "Peers" / "claude_records.py", home, "20", "10"], check=True)
+    records = sorted(home.glob("projects/*/*.jsonl"))
+    for record in records:
+        content = record.read_bytes()
+        for _ in range(49):
+            session = str(uuid.uuid4())
+            record.with_name(session + ".jsonl").write_bytes(content.replace(record.stem.encode(), session.encode()))
+    return sorted(home.glob("projects/*/*.jsonl"))
+
+
+PYTHON_CONVERSATIONS = """
+import json, sys
+for path in sys.argv[1:]:
+    for line in open(path, encoding="utf-8"):
+        json.loads(line)
+"""
+
+
+def conversations(workplace):
+    vellark = workplace.programs / "vellark"
+    if not vellark.exists():
+        return {}
+    home, data = workplace.directory / "claude", workplace.directory / "shelf"
+    data.mkdir(mode=0o700)
+    records = write_gigabyte(home)
+    environment = workplace.environment | {"CLAUDE_CONFIG_DIR": str(home)}
+    command = [vellark, "--data", data, "conversations"]
+    lines = subprocess.run(command, env=environment, check=True, capture_output=True).stdout.count(b"\n")
+    if lines != len(records):
+        sys.exit(f"{lines} conversations of {len(records)} were listed, so there is nothing to measure")
+
+    def forget():
+        (data / "sessions.json").unlink(missing_ok=True)
+
+    one_core = ["taskset", "-c", "0"] if shutil.which("taskset") else []
+    figures = turns({"vellark": one_core + command, "cat": ["cat", *records]}, environment, forget)
+    subprocess.run(command, env=environment, check=True, stdout=subprocess.DEVNULL)
+    figures |= turns({"vellark/again": command}, environment)
+    tenth = records[:: 10]  # Python takes its time
+    figures["python"] = [10 * seconds([sys.executable, "-c", PYTHON_CONVERSATIONS, *tenth], environment)]
+    shutil.rmtree(home)
+    shutil.rmtree(data)
+    return figures
+
+
+SUBJECTS = {"shelf-collect": collect, "shelf-list": listing, "shelf-conversations": conversations}
