@@ -34,9 +34,10 @@ constexpr Layered words[] = {
               "point hebdo, pv",
      .weak = ""},
     {.kind = DocumentKind::report,
-     .nouns = "rapport, rapports, bilan, bilans, reporting, synthèse, synthèses, note de synthèse, tableau de bord, "
-              "tableaux de bord, état d'avancement, point d'avancement, analyse, diagnostic, évaluation, "
-              "évaluations, livre blanc, compte rendu d'activité, compte rendu de mission, rapport d'activité",
+     .nouns = "rapport, rapports, bilan, bilans, reporting, synthèse, synthèses, note de synthèse, "
+              "tableau de bord, tableaux de bord, état d'avancement, point d'avancement, analyse, "
+              "diagnostic, évaluation, évaluations, livre blanc, compte rendu d'activité, compte rendu "
+              "de mission, rapport d'activité, point d'étape",
      .weak = "suivi, suivis"},
     {.kind = DocumentKind::research,
      .nouns = "étude, études, recherche, recherches, enquête, enquêtes, sondage, analyse "
@@ -55,7 +56,7 @@ constexpr Layered words[] = {
     {.kind = DocumentKind::proposal,
      .nouns = "proposition, propositions, recommandation, recommandations, préconisations, demande de "
               "subvention, demande de financement, réponse à appel d'offres, avant-projet, projet de "
-              "recherche, proposition commerciale, propositions commerciales, appel à projets",
+              "recherche, proposition commerciale, appel à projets",
      .weak = ""},
     {.kind = DocumentKind::memo,
      .nouns = "note de service, notes de service, note interne, notes internes, mémo, mémos, pense-bête, "
@@ -63,7 +64,7 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::presentation,
      .nouns = "présentation, présentations, diaporama, support de présentation, diapositives, exposé, "
-              "exposés, soutenance, support de réunion, diaporamas",
+              "soutenance, support de réunion, diaporamas",
      .weak = ""},
     {.kind = DocumentKind::designDoc,
      .nouns = "document de conception, dossier de conception, conception, architecture technique, "
@@ -76,9 +77,9 @@ constexpr Layered words[] = {
               "spécification api, spécification d'api, contrat d'interface, doc api",
      .weak = ""},
     {.kind = DocumentKind::testPlan,
-     .nouns = "plan de test, plans de test, plan de tests, plans de tests, cas de test, cas de tests, "
-              "stratégie de test, cahier de recette, cahier de tests, plan de recette, scénario de "
-              "test, scénarios de test, recette fonctionnelle",
+     .nouns = "plan de test, plans de test, plan de tests, cas de test, cas de tests, stratégie de "
+              "test, cahier de recette, cahier de tests, plan de recette, scénario de test, scénarios "
+              "de test, recette fonctionnelle",
      .weak = ""},
     {.kind = DocumentKind::bugReport,
      .nouns = "rapport de bug, rapport d'anomalie, fiche d'anomalie, signalement de bug, rapport "
@@ -140,18 +141,18 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::socialPost,
      .nouns = "publication linkedin, publications linkedin, publication instagram, publication "
-              "facebook, post linkedin, posts linkedin, post instagram, post facebook, publication "
-              "réseaux sociaux, publications réseaux sociaux, tweet, légende instagram, fil twitter",
+              "facebook, post linkedin, post instagram, post facebook, publication réseaux sociaux, "
+              "publications réseaux sociaux, tweet, légende instagram, fil twitter",
      .weak = ""},
     {.kind = DocumentKind::businessPlan,
      .nouns = "plan d'affaires, business plan, modèle économique, modèle d'affaires, plan de "
               "développement, projet d'entreprise, étude de faisabilité",
      .weak = ""},
     {.kind = DocumentKind::finance,
-     .nouns = "budget, budgets, budget prévisionnel, devis, facture, factures, bilan comptable, bilan financier, "
-              "compte de résultat, comptes annuels, plan de financement, plan de trésorerie, note de frais, "
-              "notes de frais, état financier, états financiers, rapport financier, bon de commande, "
-              "suivi budgétaire, fiche de paie",
+     .nouns = "budget, budgets, budget prévisionnel, devis, facture, factures, bilan comptable, bilan "
+              "financier, compte de résultat, comptes annuels, plan de financement, plan de trésorerie, "
+              "note de frais, notes de frais, état financier, états financiers, rapport financier, bon "
+              "de commande, suivi budgétaire, fiche de paie, bulletin de paie, relevé de compte",
      .weak = ""},
     {.kind = DocumentKind::legal,
      .nouns = "contrat, contrats, convention, conventions, accord, conditions générales, conditions "
@@ -174,9 +175,9 @@ constexpr Layered words[] = {
               "recrutement, avis de recrutement",
      .weak = ""},
     {.kind = DocumentKind::email,
-     .nouns = "courriel, courriels, lettre, courrier, mail de relance, e-mail de relance, mail de remerciement, "
-              "e-mail de bienvenue, mail de bienvenue, mail de prospection, e-mail de prospection, "
-              "mail de confirmation, réponse au client",
+     .nouns = "courriel, courriels, lettre, courrier, mail de relance, e-mail de relance, mail de "
+              "remerciement, e-mail de bienvenue, mail de bienvenue, mail de prospection, e-mail de "
+              "prospection, mail de confirmation, réponse au client, mail aux",
      .weak = "mail, mails, e-mail, e-mails"},
     {.kind = DocumentKind::faq,
      .nouns = "foire aux questions, questions fréquentes, faq, faqs, questions fréquemment posées, "

@@ -41,7 +41,8 @@ constexpr Layered words[] = {
      .nouns = "retrospektive, retrospektiven, rückblick, lessons learned, reflexion",
      .weak = ""},
     {.kind = DocumentKind::checklist,
-     .nouns = "checkliste, checklisten, aufgabenliste, to-do-liste, todoliste, einkaufsliste, packliste",
+     .nouns = "checkliste, checklisten, aufgabenliste, to-do-liste, todoliste, einkaufsliste, "
+              "packliste, wunschliste",
      .weak = "aufgaben"},
     {.kind = DocumentKind::proposal,
      .nouns = "vorschlag, vorschläge, antrag, anträge, empfehlung, empfehlungen, entscheidungsvorlage, "
@@ -86,11 +87,9 @@ constexpr Layered words[] = {
      .nouns = "daten, datensatz, datensätze, tabelle, tabellen, statistik, statistiken, kennzahlen, "
               "messprotokoll, messwerte, liste",
      .weak = ""},
-    {.kind = DocumentKind::prompt,
-     .nouns = "prompt, prompts, promptsammlung, ki-anweisung, systemprompt, prompt-vorlage",
-     .weak = ""},
+    {.kind = DocumentKind::prompt, .nouns = "prompt, prompts, systemprompt, prompt-vorlage", .weak = ""},
     {.kind = DocumentKind::design,
-     .nouns = "designentwurf, designkonzept, wireframe, wireframes, mockup, mockups, prototyp, logoentwurf, skizze",
+     .nouns = "designentwurf, wireframe, wireframes, mockup, mockups, prototyp, logoentwurf, skizze",
      .weak = ""},
     {.kind = DocumentKind::designSystem,
      .nouns = "designsystem, design system, styleguide, gestaltungsrichtlinie, gestaltungsrichtlinien, "
@@ -121,12 +120,14 @@ constexpr Layered words[] = {
     {.kind = DocumentKind::finance,
      .nouns = "budget, budgetplan, finanzplan, kostenplan, haushaltsplan, rechnung, rechnungen, "
               "abrechnung, kostenvoranschlag, jahresabschluss, bilanz, kalkulation, finanzbericht, "
-              "haushaltsbuch, steuererklärung, quittung, kostenaufstellung, budgetplanung, mahnung",
+              "haushaltsbuch, steuererklärung, quittung, kostenaufstellung, budgetplanung, mahnung, "
+              "lieferschein",
      .weak = ""},
     {.kind = DocumentKind::legal,
      .nouns = "vertrag, verträge, vereinbarung, vereinbarungen, agb, allgemeine geschäftsbedingungen, "
               "nutzungsbedingungen, datenschutzerklärung, vollmacht, kündigung, lizenz, satzung, klage, "
-              "einverständniserklärung, widerspruch, übergabeprotokoll, abnahmeprotokoll, impressum",
+              "einverständniserklärung, widerspruch, übergabeprotokoll, abnahmeprotokoll, impressum, "
+              "bescheinigung",
      .weak = ""},
     {.kind = DocumentKind::policy,
      .nouns = "richtlinie, richtlinien, leitlinie, leitlinien, regelung, regelungen, regeln, vorschrift, "
@@ -135,8 +136,9 @@ constexpr Layered words[] = {
               "hygienekonzept",
      .weak = ""},
     {.kind = DocumentKind::notice,
-     .nouns = "mitteilung, mitteilungen, bekanntmachung, ankündigung, rundschreiben, einladung, einladungen, "
-              "hinweis, hinweise, aushang, elternbrief, merkblatt, informationsschreiben",
+     .nouns = "mitteilung, mitteilungen, bekanntmachung, ankündigung, rundschreiben, einladung, "
+              "einladungen, hinweis, hinweise, aushang, elternbrief, merkblatt, informationsschreiben, "
+              "infoschreiben",
      .weak = ""},
     {.kind = DocumentKind::jobPosting,
      .nouns = "stellenanzeige, stellenanzeigen, stellenausschreibung, stellenangebot, stellenangebote, "
@@ -145,7 +147,7 @@ constexpr Layered words[] = {
     {.kind = DocumentKind::email,
      .nouns = "geschäftsbrief, begleitschreiben, dankschreiben, kündigungsschreiben, antwortschreiben, "
               "beschwerdebrief, dankesmail, erinnerungsmail, einladungsmail, rundmail, willkommensmail, "
-              "e-mail an, mail an",
+              "e-mail an, mail an, dankesschreiben",
      .weak = "mail, mails, e-mail"},
     {.kind = DocumentKind::faq,
      .nouns = "häufige fragen, häufig gestellte fragen, faq, faqs, fragen und antworten, fragenkatalog",
@@ -170,8 +172,8 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::learning,
      .nouns = "lehrplan, lehrpläne, lehrmaterial, lehrmaterialien, lernmaterial, unterrichtsmaterial, "
-              "unterrichtsmaterialien, unterrichtsentwurf, unterrichtsplanung, stundenentwurf, schulungsunterlagen, "
-              "kursunterlagen, lehrbuch, modulhandbuch, unterrichtskonzept",
+              "unterrichtsmaterialien, unterrichtsentwurf, unterrichtsplanung, stundenentwurf, "
+              "schulungsunterlagen, kursunterlagen, lehrbuch, modulhandbuch",
      .weak = ""},
     {.kind = DocumentKind::lectureNotes,
      .nouns = "mitschrift, mitschriften, vorlesungsnotizen, vorlesungsskript, vorlesungsmitschrift",
@@ -181,8 +183,8 @@ constexpr Layered words[] = {
               "vokabeln, formelsammlung, lernkarten, spickzettel, zusammenfassung",
      .weak = ""},
     {.kind = DocumentKind::readingNotes,
-     .nouns = "lesenotizen, buchzusammenfassung, lesetagebuch, buchnotizen, exzerpt, inhaltsangabe, "
-              "buchvorstellung, leseprotokoll",
+     .nouns = "lesenotizen, buchzusammenfassung, lesetagebuch, exzerpt, inhaltsangabe, buchvorstellung, "
+              "leseprotokoll",
      .weak = ""},
     {.kind = DocumentKind::exercises,
      .nouns = "übungsaufgabe, übungsaufgaben, übung, übungen, übungsblatt, übungsblätter, arbeitsblatt, "
@@ -193,12 +195,11 @@ constexpr Layered words[] = {
               "lösungsheft",
      .weak = ""},
     {.kind = DocumentKind::quiz,
-     .nouns = "klausur, klausuren, klassenarbeit, prüfungsfragen, prüfungsaufgaben, abschlussprüfung, "
-              "vokabeltest",
+     .nouns = "klausur, klausuren, klassenarbeit, prüfungsfragen, abschlussprüfung, vokabeltest",
      .weak = "prüfung, prüfungen, quiz"},
     {.kind = DocumentKind::paper,
      .nouns = "abschlussarbeit, bachelorarbeit, masterarbeit, dissertation, doktorarbeit, hausarbeit, "
-              "seminararbeit, facharbeit",
+              "seminararbeit, facharbeit, projektarbeit",
      .weak = ""},
     {.kind = DocumentKind::journal, .nouns = "tagebuch, tagebucheintrag, tagebucheinträge", .weak = ""},
     {.kind = DocumentKind::resume,

@@ -22,9 +22,10 @@ constexpr std::array<Layered, 55> words{{
      "términos de referencia, fichas técnicas, documento de requisitos, pliego de",
      ""},
     {DocumentKind::plan,
-     "plan, planes, planificación, planeación, hoja de ruta, roadmap, cronograma, calendario, estrategia, "
-     "estrategias, objetivos, plan estratégico, plan operativo, plan anual, plan mensual, plan semanal, "
-     "plan trimestral, plan comercial, plan maestro, plan director",
+     "plan, planes, planificación, planeación, hoja de ruta, roadmap, cronograma, calendario, "
+     "estrategia, estrategias, objetivos, plan estratégico, plan operativo, plan anual, plan "
+     "mensual, plan semanal, plan trimestral, plan comercial, plan maestro, plan director, "
+     "horario, programa de mantenimiento",
      ""},
     {DocumentKind::userStories,
      "historias de usuario, historia de usuario, casos de uso, caso de uso, épicas, criterios de aceptación, "
@@ -35,9 +36,9 @@ constexpr std::array<Layered, 55> words{{
      "resumen de reunión, orden del día, agenda de la reunión, resumen de la llamada, agenda de reunión",
      ""},
     {DocumentKind::report,
-     "informe, informes, reporte, reportes, análisis, resumen ejecutivo, resumen semanal, resumen mensual, "
-     "memoria anual, memoria de actividades, auditoría, diagnóstico, evaluación, borrador del informe, auditorías, "
-     "resumen trimestral",
+     "informe, informes, reporte, reportes, análisis, resumen ejecutivo, resumen semanal, "
+     "resumen mensual, memoria anual, memoria de actividades, auditoría, diagnóstico, "
+     "evaluación, borrador del informe, auditorías, resumen trimestral, parte de trabajo",
      ""},
     {DocumentKind::research,
      "investigación, estudio, análisis de mercado, análisis del mercado, análisis de la competencia, "
@@ -45,8 +46,8 @@ constexpr std::array<Layered, 55> words{{
      "entrevistas a usuarios, estado del arte, revisión bibliográfica, estudios, comparación de precios",
      ""},
     {DocumentKind::retrospective,
-     "retrospectiva, retrospectivas, retro del sprint, lecciones aprendidas, cierre del proyecto, "
-     "revisión del sprint",
+     "retrospectiva, retro del sprint, lecciones aprendidas, cierre del proyecto, revisión del "
+     "sprint",
      ""},
     {DocumentKind::checklist,
      "lista de verificación, lista de comprobación, lista de control, lista de chequeo, checklist, "
@@ -139,10 +140,11 @@ constexpr std::array<Layered, 55> words{{
      "liquidación, orden de compra, nota de crédito, nota de gastos",
      ""},
     {DocumentKind::legal,
-     "contrato, contratos, acuerdo, acuerdos, convenio, convenios, términos y condiciones, condiciones de uso, "
-     "condiciones generales, términos de uso, aviso legal, aviso de privacidad, borrador de contrato, "
-     "borrador del contrato, licencia, demanda judicial, demanda laboral, sentencia, poder notarial, estatutos, "
-     "cláusulas, informe jurídico",
+     "contrato, contratos, acuerdo, acuerdos, convenio, convenios, términos y condiciones, "
+     "condiciones de uso, condiciones generales, términos de uso, aviso legal, aviso de "
+     "privacidad, borrador de contrato, borrador del contrato, licencia, demanda judicial, "
+     "demanda laboral, sentencia, poder notarial, estatutos, cláusulas, informe jurídico, "
+     "certificado",
      ""},
     {DocumentKind::policy,
      "política, políticas, reglamento, reglamentos, normativa, normas, reglas, código de conducta, código ético, "
@@ -157,10 +159,11 @@ constexpr std::array<Layered, 55> words{{
      "descripción del puesto, perfil del puesto, convocatoria de empleo, se busca, buscamos",
      ""},
     {DocumentKind::email,
-     "correo electrónico, correos electrónicos, correo de bienvenida, correo de seguimiento, correo para, "
-     "correo a, email de, email para, borrador de correo, plantilla de correo, plantillas de correo, "
-     "respuesta al cliente, carta de recomendación, carta de renuncia, carta de agradecimiento, carta al cliente, "
-     "carta formal, mensaje para, mensaje de bienvenida",
+     "correo electrónico, correos electrónicos, correo de bienvenida, correo de seguimiento, "
+     "correo para, correo a, email de, email para, borrador de correo, plantilla de correo, "
+     "plantillas de correo, respuesta al cliente, carta de recomendación, carta de renuncia, "
+     "carta de agradecimiento, carta al cliente, carta formal, mensaje para, mensaje de "
+     "bienvenida, carta de reclamación, correo de agradecimiento",
      "carta, cartas, correo, correos"},
     {DocumentKind::faq,
      "preguntas frecuentes, pregunta frecuente, preguntas y respuestas, preguntas más frecuentes, "
@@ -182,8 +185,7 @@ constexpr std::array<Layered, 55> words{{
      ""},
     {DocumentKind::story,
      "cuento, cuentos, relato, relatos, novela, novelas, microrrelato, poema, poemas, poesía, "
-     "poemario, fábula, historia corta, historias cortas, capítulo de la novela, letra de "
-     "canción",
+     "poemario, fábula, historia corta, capítulo de la novela, letra de canción",
      "historia, historias"},
     {DocumentKind::translation,
      "traducción, traducciones, borrador de traducción, texto traducido, documento traducido, versión en inglés, "
@@ -221,8 +223,8 @@ constexpr std::array<Layered, 55> words{{
      "solucionario, solucionarios, solución del examen, solución de los ejercicios, soluciones "
      "de los ejercicios, soluciones a los ejercicios, soluciones de ejercicios, soluciones del "
      "examen, ejercicios resueltos, ejercicio resuelto, problemas resueltos, examen resuelto, "
-     "exámenes resueltos, hoja de respuestas, clave de respuestas, respuestas del examen, "
-     "respuestas del cuestionario, soluciones tema",
+     "hoja de respuestas, clave de respuestas, respuestas del examen, respuestas del "
+     "cuestionario, soluciones tema",
      "soluciones, respuestas"},
     {DocumentKind::quiz,
      "examen, exámenes, parcial, parciales, cuestionario, cuestionarios, control de "
@@ -238,23 +240,22 @@ constexpr std::array<Layered, 55> words{{
      "tesis, tesina, trabajo de fin de grado, trabajo fin de grado, trabajo de fin de máster, "
      "trabajo fin de máster, trabajo de grado, trabajo de investigación, trabajo académico, "
      "tfg, tfm, artículo científico, artículos científicos, artículo académico, artículo de "
-     "investigación, disertación, monografía, monografías, proyecto de investigación, marco "
-     "teórico",
+     "investigación, disertación, monografía, proyecto de investigación, marco teórico",
      ""},
     {DocumentKind::journal,
      "diario, diarios, mi diario, entrada de diario, entrada del diario, bitácora, reflexión "
      "diaria, reflexiones del día, reflexión personal, reflexiones personales",
      ""},
     {DocumentKind::resume,
-     "currículum, curriculum vitae, hoja de vida, hojas de vida, carta de presentación, cartas "
-     "de presentación, carta de motivación, cartas de motivación, perfil profesional, "
-     "portafolio profesional, mi cv, cv de",
+     "currículum, curriculum vitae, hoja de vida, carta de presentación, cartas de "
+     "presentación, carta de motivación, cartas de motivación, perfil profesional, portafolio "
+     "profesional, mi cv, cv de",
      ""},
     {DocumentKind::travelPlan,
-     "plan de viaje, planes de viaje, plan de vacaciones, itinerario, itinerarios, ruta de "
-     "viaje, guía de viaje, guías de viaje, programa de viaje, programa del viaje, "
-     "planificación del viaje, planificación de viaje, presupuesto de viaje, presupuesto del "
-     "viaje, lista de equipaje, ruta por, viaje a",
+     "plan de viaje, plan de vacaciones, itinerario, itinerarios, ruta de viaje, guía de "
+     "viaje, guías de viaje, programa de viaje, programa del viaje, planificación del viaje, "
+     "planificación de viaje, presupuesto de viaje, presupuesto del viaje, lista de equipaje, "
+     "ruta por, viaje a",
      "viaje, viajes"},
     {DocumentKind::recipe,
      "receta, recetas, recetario, libro de recetas, libro de cocina, menú semanal, plan de "
