@@ -11,21 +11,22 @@ namespace {
 
 constexpr Layered words[] = {
     {.kind = DocumentKind::prd,
-     .nouns = "expression de besoins, expression des besoins, exigences produit, note de cadrage, note de concept, "
-              "fiche projet",
+     .nouns = "expression de besoins, expression des besoins, exigences produit, note de cadrage, fiche "
+              "projet, brief produit",
      .weak = ""},
     {.kind = DocumentKind::spec,
-     .nouns = "cahier des charges, cahiers des charges, spécification, spécifications, exigences, fiche technique, "
-              "fiches techniques, dossier technique, règles de gestion, besoins fonctionnels",
+     .nouns = "cahier des charges, cahiers des charges, spécification, spécifications, exigences, fiche "
+              "technique, dossier technique, règles de gestion, besoins fonctionnels",
      .weak = "besoins"},
     {.kind = DocumentKind::plan,
-     .nouns = "plan, plans, plan d'action, plans d'action, plan projet, plan stratégique, plan marketing, planning, "
-              "calendrier, calendriers, feuille de route, feuilles de route, stratégie, stratégies, planification, "
-              "échéancier, rétroplanning, roadmap, emploi du temps, plane",
+     .nouns = "plan, plans, plan d'action, plans d'action, plan projet, plan stratégique, plan "
+              "marketing, planning, calendrier, feuille de route, feuilles de route, stratégie, "
+              "stratégies, planification, rétroplanning, roadmap, emploi du temps, plane",
      .weak = "programme, programmes"},
     {.kind = DocumentKind::userStories,
-     .nouns = "récit utilisateur, récits utilisateurs, user story, user stories, cas d'utilisation, cas d'usage, "
-              "critères d'acceptation, scénario utilisateur, backlog produit",
+     .nouns = "récit utilisateur, récits utilisateurs, user story, user stories, cas d'utilisation, cas "
+              "d'usage, critères d'acceptation, scénario utilisateur, backlog produit, récits "
+              "utilisateur",
      .weak = ""},
     {.kind = DocumentKind::meetingNotes,
      .nouns = "compte rendu, comptes rendus, procès-verbal, procès-verbaux, pv d'assemblée générale, "
@@ -33,36 +34,37 @@ constexpr Layered words[] = {
               "point hebdo, pv",
      .weak = ""},
     {.kind = DocumentKind::report,
-     .nouns = "rapport, rapports, bilan, bilans, reporting, synthèse, synthèses, note de synthèse, tableau de bord, "
-              "tableaux de bord, état d'avancement, point d'avancement, analyse, diagnostic, évaluation, "
-              "évaluations, livre blanc, compte rendu d'activité, compte rendu de mission, rapport d'activité",
+     .nouns = "rapport, rapports, bilan, bilans, reporting, synthèse, synthèses, note de synthèse, "
+              "tableau de bord, tableaux de bord, état d'avancement, point d'avancement, analyse, "
+              "diagnostic, évaluation, évaluations, livre blanc, compte rendu d'activité, compte rendu "
+              "de mission, rapport d'activité, point d'étape",
      .weak = "suivi, suivis"},
     {.kind = DocumentKind::research,
-     .nouns = "étude, études, recherche, recherches, enquête, enquêtes, sondage, sondages, analyse concurrentielle, "
-              "analyse de marché, veille, état de l'art, revue de littérature, revue de la littérature, "
-              "questionnaire, questionnaires",
+     .nouns = "étude, études, recherche, recherches, enquête, enquêtes, sondage, analyse "
+              "concurrentielle, analyse de marché, veille, état de l'art, revue de littérature, revue "
+              "de la littérature, questionnaire, questionnaires, benchmark concurrentiel",
      .weak = ""},
     {.kind = DocumentKind::retrospective,
-     .nouns = "rétrospective, rétrospectives, rétro, retour d'expérience, retours d'expérience, bilan de projet, "
-              "bilan de sprint",
+     .nouns = "rétrospective, rétro, retour d'expérience, retours d'expérience, bilan de projet, bilan "
+              "de sprint, rex projet",
      .weak = ""},
     {.kind = DocumentKind::checklist,
-     .nouns = "liste de contrôle, liste de vérification, liste de tâches, liste des tâches, listes de tâches, "
-              "liste de courses, liste de choses à faire, choses à faire, à faire, checklist, checklists, "
+     .nouns = "liste de contrôle, liste de vérification, liste de tâches, liste des tâches, liste de "
+              "courses, liste de choses à faire, choses à faire, à faire, checklist, checklists, "
               "check-list, points à vérifier, tâches à faire",
      .weak = "tâches, liste, listes"},
     {.kind = DocumentKind::proposal,
-     .nouns = "proposition, propositions, recommandation, recommandations, préconisations, demande de subvention, "
-              "demande de financement, réponse à appel d'offres, avant-projet, projet de recherche, "
-              "proposition commerciale, propositions commerciales",
+     .nouns = "proposition, propositions, recommandation, recommandations, préconisations, demande de "
+              "subvention, demande de financement, réponse à appel d'offres, avant-projet, projet de "
+              "recherche, proposition commerciale, appel à projets",
      .weak = ""},
     {.kind = DocumentKind::memo,
      .nouns = "note de service, notes de service, note interne, notes internes, mémo, mémos, pense-bête, "
               "notes personnelles, bloc-notes",
      .weak = ""},
     {.kind = DocumentKind::presentation,
-     .nouns = "présentation, présentations, diaporama, diaporamas, support de présentation, diapositives, exposé, "
-              "exposés, soutenance, support de réunion",
+     .nouns = "présentation, présentations, diaporama, support de présentation, diapositives, exposé, "
+              "soutenance, support de réunion, diaporamas",
      .weak = ""},
     {.kind = DocumentKind::designDoc,
      .nouns = "document de conception, dossier de conception, conception, architecture technique, "
@@ -75,21 +77,21 @@ constexpr Layered words[] = {
               "spécification api, spécification d'api, contrat d'interface, doc api",
      .weak = ""},
     {.kind = DocumentKind::testPlan,
-     .nouns = "plan de test, plans de test, plan de tests, plans de tests, cas de test, cas de tests, "
-              "stratégie de test, cahier de recette, cahiers de recette, cahier de tests, plan de recette, "
-              "scénario de test, scénarios de test, recette fonctionnelle",
+     .nouns = "plan de test, plans de test, plan de tests, cas de test, cas de tests, stratégie de "
+              "test, cahier de recette, cahier de tests, plan de recette, scénario de test, scénarios "
+              "de test, recette fonctionnelle",
      .weak = ""},
     {.kind = DocumentKind::bugReport,
-     .nouns = "rapport de bug, rapports de bug, rapport d'anomalie, fiche d'anomalie, signalement de bug, "
-              "signalement d'anomalie, rapport d'erreur, anomalie, anomalies, bogue, bogues",
+     .nouns = "rapport de bug, rapport d'anomalie, fiche d'anomalie, signalement de bug, rapport "
+              "d'erreur, anomalie, anomalies, bogue",
      .weak = ""},
     {.kind = DocumentKind::codeReview,
-     .nouns = "revue de code, revues de code, relecture de code, revue de pull request, commentaires de revue, "
-              "audit de code",
+     .nouns = "revue de code, revues de code, relecture de code, audit de code",
      .weak = ""},
     {.kind = DocumentKind::postmortem,
-     .nouns = "post-mortem, postmortem, rapport d'incident, rapports d'incident, analyse d'incident, "
-              "analyse des causes, analyse de cause racine, compte rendu d'incident, rapport de panne",
+     .nouns = "post-mortem, postmortem, rapport d'incident, analyse d'incident, analyse des causes, "
+              "analyse de cause racine, compte rendu d'incident, rapport de panne, analyse "
+              "post-incident",
      .weak = ""},
     {.kind = DocumentKind::changelog,
      .nouns = "journal des modifications, journal des changements, notes de version, note de version, "
@@ -97,28 +99,28 @@ constexpr Layered words[] = {
               "nouveautés, changelog, release notes",
      .weak = ""},
     {.kind = DocumentKind::guide,
-     .nouns = "guide, guides, manuel, manuels, mode d'emploi, modes d'emploi, tutoriel, tutoriels, tuto, tutos, "
-              "procédure, procédures, notice d'utilisation, notice explicative, "
-              "guide utilisateur, guide d'installation, guide pratique, fiche pratique, livret d'accueil, consignes, "
-              "prise en main, mode opératoire, bonnes pratiques, documentation technique, "
-              "documentation utilisateur, guide d'accueil",
+     .nouns = "guide, guides, manuel, manuels, mode d'emploi, tutoriel, tutoriels, tuto, procédure, "
+              "procédures, notice d'utilisation, notice explicative, guide utilisateur, guide "
+              "d'installation, guide pratique, fiche pratique, livret d'accueil, consignes, prise en "
+              "main, mode opératoire, bonnes pratiques, documentation technique, documentation "
+              "utilisateur, guide d'accueil",
      .weak = "méthode, démarche, étapes"},
     {.kind = DocumentKind::data,
      .nouns = "données, jeu de données, jeux de données, statistiques, chiffres clés, indicateurs, "
               "tableau de données, tableau récapitulatif, tableau de suivi, liste des participants, "
-              "liste des clients, annuaire",
+              "liste des clients, annuaire, base de données",
      .weak = ""},
     {.kind = DocumentKind::prompt,
-     .nouns = "prompt, prompts, prompt système, instructions système, bibliothèque de prompts",
+     .nouns = "prompt, prompts, prompt système, instructions système, bibliothèque de prompts, "
+              "instructions pour l'agent",
      .weak = ""},
     {.kind = DocumentKind::design,
      .nouns = "maquette, maquettes, wireframe, wireframes, prototype interactif, parcours utilisateur, "
               "parcours client, fiche persona, esquisse, croquis, conception graphique",
      .weak = ""},
     {.kind = DocumentKind::designSystem,
-     .nouns = "système de design, design system, charte graphique, chartes graphiques, guide de style, "
-              "identité visuelle, charte de marque, bibliothèque de composants, palette de couleurs, "
-              "charte éditoriale",
+     .nouns = "système de design, design system, charte graphique, guide de style, identité visuelle, "
+              "charte de marque, bibliothèque de composants, palette de couleurs, charte éditoriale",
      .weak = ""},
     {.kind = DocumentKind::marketingCopy,
      .nouns = "texte publicitaire, accroche, accroches, slogan, slogans, page de vente, "
@@ -131,41 +133,41 @@ constexpr Layered words[] = {
               "grille tarifaire",
      .weak = ""},
     {.kind = DocumentKind::pressRelease,
-     .nouns = "communiqué de presse, communiqués de presse, communiqué, communiqués, dossier de presse, "
-              "dossiers de presse",
+     .nouns = "communiqué de presse, communiqués de presse, communiqué, communiqués, dossier de presse",
      .weak = ""},
     {.kind = DocumentKind::newsletter,
      .nouns = "newsletter, newsletters, lettre d'information, lettres d'information, infolettre, bulletin, "
               "journal interne, bulletin municipal",
      .weak = ""},
     {.kind = DocumentKind::socialPost,
-     .nouns = "publication linkedin, publications linkedin, publication instagram, publication facebook, "
-              "post linkedin, posts linkedin, post instagram, post facebook, publication réseaux sociaux, "
-              "publications réseaux sociaux, tweet",
+     .nouns = "publication linkedin, publications linkedin, publication instagram, publication "
+              "facebook, post linkedin, post instagram, post facebook, publication réseaux sociaux, "
+              "publications réseaux sociaux, tweet, légende instagram, fil twitter",
      .weak = ""},
     {.kind = DocumentKind::businessPlan,
-     .nouns = "plan d'affaires, plans d'affaires, business plan, modèle économique, modèle d'affaires, "
-              "plan de développement, projet d'entreprise, étude de faisabilité",
+     .nouns = "plan d'affaires, business plan, modèle économique, modèle d'affaires, plan de "
+              "développement, projet d'entreprise, étude de faisabilité",
      .weak = ""},
     {.kind = DocumentKind::finance,
-     .nouns = "budget, budgets, budget prévisionnel, devis, facture, factures, bilan comptable, bilan financier, "
-              "compte de résultat, comptes annuels, plan de financement, plan de trésorerie, note de frais, "
-              "notes de frais, état financier, états financiers, rapport financier, bon de commande, "
-              "suivi budgétaire, fiche de paie",
+     .nouns = "budget, budgets, budget prévisionnel, devis, facture, factures, bilan comptable, bilan "
+              "financier, compte de résultat, comptes annuels, plan de financement, plan de trésorerie, "
+              "note de frais, notes de frais, état financier, états financiers, rapport financier, bon "
+              "de commande, suivi budgétaire, fiche de paie, bulletin de paie, relevé de compte",
      .weak = ""},
     {.kind = DocumentKind::legal,
-     .nouns = "contrat, contrats, convention, conventions, accord, conditions générales, conditions d'utilisation, "
-              "mentions légales, politique de confidentialité, statuts, bail, avenant, avenants, procuration, "
-              "mise en demeure, licence, attestation, attestations, protocole d'accord, cgv, cgu, projet de loi",
+     .nouns = "contrat, contrats, convention, conventions, accord, conditions générales, conditions "
+              "d'utilisation, mentions légales, politique de confidentialité, statuts, bail, avenant, "
+              "procuration, mise en demeure, licence, attestation, attestations, protocole d'accord, "
+              "cgv, cgu, projet de loi",
      .weak = ""},
     {.kind = DocumentKind::policy,
      .nouns = "politique, politiques, règlement, règlements, charte, chartes, code de conduite, directive, règles, "
               "consignes de sécurité, lignes directrices, protocole sanitaire",
      .weak = ""},
     {.kind = DocumentKind::notice,
-     .nouns = "annonce, annonces, avis, note d'information, circulaire, circulaires, convocation, convocations, "
-              "communication interne, information aux parents, lettre aux parents, appel à candidatures, faire-part, "
-              "lettre d'invitation",
+     .nouns = "annonce, annonces, avis, note d'information, circulaire, circulaires, convocation, "
+              "communication interne, information aux parents, lettre aux parents, appel à "
+              "candidatures, faire-part, lettre d'invitation",
      .weak = ""},
     {.kind = DocumentKind::jobPosting,
      .nouns = "offre d'emploi, offres d'emploi, annonce d'emploi, fiche de poste, fiches de poste, offre de stage, "
@@ -173,30 +175,31 @@ constexpr Layered words[] = {
               "recrutement, avis de recrutement",
      .weak = ""},
     {.kind = DocumentKind::email,
-     .nouns = "courriel, courriels, lettre, courrier, mail de relance, e-mail de relance, mail de remerciement, "
-              "e-mail de bienvenue, mail de bienvenue, mail de prospection, e-mail de prospection, "
-              "mail de confirmation, réponse au client",
+     .nouns = "courriel, courriels, lettre, courrier, mail de relance, e-mail de relance, mail de "
+              "remerciement, e-mail de bienvenue, mail de bienvenue, mail de prospection, e-mail de "
+              "prospection, mail de confirmation, réponse au client, mail aux",
      .weak = "mail, mails, e-mail, e-mails"},
     {.kind = DocumentKind::faq,
      .nouns = "foire aux questions, questions fréquentes, faq, faqs, questions fréquemment posées, "
               "questions-réponses, questions et réponses, article d'aide",
      .weak = ""},
     {.kind = DocumentKind::blogPost,
-     .nouns = "article de blog, billet de blog, article, articles, billet, billets, témoignage, témoignages, "
-              "reportage, récit de voyage",
+     .nouns = "article de blog, billet de blog, article, articles, billet, billets, témoignage, "
+              "témoignages, reportage, récit de voyage, article blog",
      .weak = ""},
     {.kind = DocumentKind::script,
-     .nouns = "scénario, scénarios, discours, script vidéo, script de podcast, pièce de théâtre, sous-titres, "
-              "dialogue, dialogues, allocution, storyboard, éloge funèbre",
+     .nouns = "scénario, scénarios, discours, script vidéo, script de podcast, pièce de théâtre, "
+              "sous-titres, dialogue, dialogues, allocution, storyboard, éloge funèbre, script podcast",
      .weak = ""},
     {.kind = DocumentKind::essay,
-     .nouns = "essai, essais, tribune, tribunes, éditorial, éditoriaux, édito, chronique, chroniques, "
-              "critique de film, critique littéraire, commentaire de texte, billet d'humeur, rédaction, réflexion, "
-              "réflexions, point de vue, dissertation de philosophie",
+     .nouns = "essai, essais, tribune, tribunes, éditorial, édito, chronique, critique de film, "
+              "critique littéraire, commentaire de texte, billet d'humeur, rédaction, réflexion, "
+              "réflexions, point de vue, dissertation de philosophie, commentaire composé, critique du "
+              "film",
      .weak = ""},
     {.kind = DocumentKind::story,
-     .nouns = "roman, romans, conte, contes, nouvelle littéraire, recueil de nouvelles, histoire courte, "
-              "histoire pour enfants, poème, poèmes, récit, récits, fable, paroles de chanson",
+     .nouns = "roman, conte, nouvelle littéraire, recueil de nouvelles, histoire courte, histoire pour "
+              "enfants, poème, poèmes, récit, récits, fable, paroles de chanson",
      .weak = ""},
     {.kind = DocumentKind::translation,
      .nouns = "traduction, traductions, version française, version anglaise, version bilingue, texte traduit",
@@ -211,27 +214,31 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::studyNotes,
      .nouns = "fiche de révision, fiches de révision, révisions, fiche de synthèse, fiches de synthèse, "
-              "résumé de cours, aide-mémoire, fiche de cours, fiches de cours, vocabulaire",
+              "résumé de cours, aide-mémoire, fiche de cours, fiches de cours, vocabulaire, notes de "
+              "révision, résumé de chapitre",
      .weak = ""},
     {.kind = DocumentKind::readingNotes,
      .nouns = "fiche de lecture, fiches de lecture, notes de lecture, note de lecture, compte rendu de lecture, "
               "résumé de livre, résumé du livre, carnet de lecture, journal de lecture",
      .weak = ""},
     {.kind = DocumentKind::exercises,
-     .nouns = "exercice, exercices, feuille d'exercices, cahier d'exercices, série d'exercices, devoirs, "
-              "devoir maison, travaux dirigés, travaux pratiques, annales, problèmes de maths",
+     .nouns = "exercice, exercices, feuille d'exercices, cahier d'exercices, série d'exercices, "
+              "devoirs, devoir maison, travaux dirigés, travaux pratiques, annales, problèmes de maths, "
+              "td",
      .weak = ""},
     {.kind = DocumentKind::solutions,
-     .nouns = "corrigé, corrigés, solution des exercices, correction des exercices, correction du devoir, "
-              "correction du contrôle, éléments de correction",
+     .nouns = "corrigé, corrigés, solution des exercices, correction des exercices, correction du "
+              "devoir, correction du contrôle, éléments de correction, correction du, correction des, "
+              "correction exercices, solutions des exercices",
      .weak = ""},
     {.kind = DocumentKind::quiz,
-     .nouns = "qcm, sujet d'examen, examen blanc, examen final, devoir surveillé, interrogation, interro, "
-              "contrôle de connaissances, épreuve, épreuves, partiel, bac blanc, dictée",
+     .nouns = "qcm, sujet d'examen, examen blanc, examen final, devoir surveillé, interrogation, "
+              "interro, contrôle de connaissances, épreuve, épreuves, partiel, bac blanc, dictée, sujet "
+              "de bac, contrôle de mathématiques",
      .weak = "quiz, examen, examens, contrôle, contrôles"},
     {.kind = DocumentKind::errorNotes,
-     .nouns = "cahier d'erreurs, cahier des erreurs, carnet d'erreurs, analyse des erreurs, erreurs fréquentes, "
-              "relevé d'erreurs",
+     .nouns = "cahier d'erreurs, cahier des erreurs, carnet d'erreurs, analyse des erreurs, erreurs "
+              "fréquentes, relevé d'erreurs, mes erreurs",
      .weak = ""},
     {.kind = DocumentKind::paper,
      .nouns = "mémoire, mémoires, thèse, thèses, article scientifique, articles scientifiques, article de recherche, "
@@ -247,8 +254,8 @@ constexpr Layered words[] = {
               "candidatures, profil professionnel, dossier de compétences, lettre de recommandation, mon cv",
      .weak = "cv"},
     {.kind = DocumentKind::travelPlan,
-     .nouns = "itinéraire, itinéraires, voyage, programme de voyage, plan de voyage, planning de voyage, "
-              "programme de visite, séjour, circuit touristique",
+     .nouns = "itinéraire, itinéraires, voyage, programme de voyage, plan de voyage, planning de "
+              "voyage, programme de visite, séjour, circuit touristique, programme week-end",
      .weak = ""},
     {.kind = DocumentKind::recipe,
      .nouns = "recette, recettes, carnet de recettes, fiche recette, menu de la semaine, menus de la semaine, "

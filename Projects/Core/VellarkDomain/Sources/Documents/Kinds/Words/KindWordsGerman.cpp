@@ -9,23 +9,25 @@ namespace vellark::KindWords {
 namespace {
 
 constexpr Layered words[] = {
-    {.kind = DocumentKind::prd, .nouns = "konzept, konzepte, produktanforderungen, projektskizze", .weak = ""},
+    {.kind = DocumentKind::prd,
+     .nouns = "konzept, produktanforderungen, projektskizze, produktanforderungsdokument",
+     .weak = ""},
     {.kind = DocumentKind::spec,
-     .nouns = "spezifikation, spezifikationen, pflichtenheft, lastenheft, anforderungen, anforderungskatalog, "
-              "anforderungsanalyse, leistungsbeschreibung, funktionsbeschreibung, fachkonzept, leistungsverzeichnis, "
-              "datenblatt",
+     .nouns = "spezifikation, spezifikationen, pflichtenheft, lastenheft, anforderungen, "
+              "anforderungskatalog, anforderungsanalyse, leistungsbeschreibung, funktionsbeschreibung, "
+              "fachkonzept, leistungsverzeichnis, datenblatt, anforderungsdokument",
      .weak = ""},
     {.kind = DocumentKind::plan,
-     .nouns = "plan, pläne, zeitplan, terminplan, projektplan, aktionsplan, maßnahmenplan, wochenplan, dienstplan, "
-              "planung, strategie, roadmap",
+     .nouns = "plan, pläne, zeitplan, terminplan, projektplan, aktionsplan, maßnahmenplan, wochenplan, "
+              "dienstplan, planung, strategie, roadmap, schichtplan, redaktionsplan",
      .weak = ""},
     {.kind = DocumentKind::userStories,
      .nouns = "user story, user stories, nutzergeschichte, nutzergeschichten, anwendungsfall, anwendungsfälle, "
               "akzeptanzkriterien",
      .weak = ""},
     {.kind = DocumentKind::meetingNotes,
-     .nouns = "protokoll, protokolle, besprechungsnotiz, besprechungsnotizen, gesprächsnotiz, gesprächsnotizen, "
-              "niederschrift, tagesordnung",
+     .nouns = "protokoll, protokolle, besprechungsnotiz, besprechungsnotizen, gesprächsnotiz, "
+              "gesprächsnotizen, niederschrift, tagesordnung, meeting-notizen",
      .weak = ""},
     {.kind = DocumentKind::report,
      .nouns = "bericht, berichte, report, analyse, analysen, auswertung, auswertungen, gutachten, sachstand, "
@@ -36,94 +38,96 @@ constexpr Layered words[] = {
               "befragung, fragebogen, literaturübersicht",
      .weak = ""},
     {.kind = DocumentKind::retrospective,
-     .nouns = "retrospektive, retrospektiven, rückblick, nachbetrachtung, lessons learned, reflexion",
+     .nouns = "retrospektive, retrospektiven, rückblick, lessons learned, reflexion",
      .weak = ""},
     {.kind = DocumentKind::checklist,
-     .nouns = "checkliste, checklisten, prüfliste, aufgabenliste, to-do-liste, todoliste, einkaufsliste, packliste, "
-              "einkaufszettel",
+     .nouns = "checkliste, checklisten, aufgabenliste, to-do-liste, todoliste, einkaufsliste, "
+              "packliste, wunschliste",
      .weak = "aufgaben"},
     {.kind = DocumentKind::proposal,
      .nouns = "vorschlag, vorschläge, antrag, anträge, empfehlung, empfehlungen, entscheidungsvorlage, "
               "beschlussvorlage",
      .weak = ""},
-    {.kind = DocumentKind::memo, .nouns = "notiz, notizen, vermerk, vermerke, notizzettel", .weak = ""},
+    {.kind = DocumentKind::memo, .nouns = "notiz, notizen, vermerk, memo an, notizzettel", .weak = ""},
     {.kind = DocumentKind::presentation,
-     .nouns = "präsentation, präsentationen, folien, vortrag, vorträge, referat, referate",
+     .nouns = "präsentation, präsentationen, folien, vortrag, vorträge, referat, foliensatz",
      .weak = ""},
     {.kind = DocumentKind::designDoc,
-     .nouns = "architektur, architekturkonzept, architekturentscheidung, "
-              "technisches konzept, feinkonzept, systementwurf, datenbankentwurf, datenmodell, datenbankschema, "
-              "klassendiagramm, berechtigungskonzept, architekturentwurf",
+     .nouns = "architektur, architekturkonzept, architekturentscheidung, technisches konzept, "
+              "feinkonzept, systementwurf, datenbankentwurf, datenmodell, datenbankschema, "
+              "klassendiagramm, berechtigungskonzept, architekturentwurf, architekturdokument, "
+              "technisches design, entwurfsdokument",
      .weak = ""},
     {.kind = DocumentKind::apiDoc,
      .nouns = "api-dokumentation, api-referenz, api-spezifikation, schnittstellenbeschreibung, "
               "schnittstellendokumentation, schnittstellenspezifikation",
      .weak = ""},
     {.kind = DocumentKind::testPlan,
-     .nouns = "testplan, testpläne, testkonzept, testfall, testfälle, teststrategie, testprotokoll, testprotokolle, "
+     .nouns = "testplan, testpläne, testkonzept, testfall, testfälle, teststrategie, testprotokoll, "
               "testszenario, prüfplan",
      .weak = ""},
     {.kind = DocumentKind::bugReport,
-     .nouns = "fehlerbericht, fehlerberichte, fehlermeldung, fehlermeldungen, fehlerbeschreibung, bugreport, "
-              "mängelbericht, störungsmeldung",
+     .nouns = "fehlerbericht, fehlermeldung, fehlerbeschreibung, bugreport, störungsmeldung",
      .weak = ""},
-    {.kind = DocumentKind::codeReview,
-     .nouns = "codereview, code review, code-überprüfung, code-prüfung, reviewprotokoll",
-     .weak = ""},
+    {.kind = DocumentKind::codeReview, .nouns = "code review, code-überprüfung", .weak = ""},
     {.kind = DocumentKind::postmortem,
      .nouns = "postmortem, störungsbericht, vorfallsbericht, ausfallbericht, incident-bericht, ursachenanalyse, "
               "fehleranalyse",
      .weak = ""},
     {.kind = DocumentKind::changelog,
-     .nouns = "changelog, release notes, änderungsprotokoll, änderungsverlauf, änderungshistorie, versionshinweise, "
-              "versionshistorie, neuerungen, versionsverlauf",
+     .nouns = "changelog, release notes, änderungsprotokoll, änderungsverlauf, änderungshistorie, "
+              "versionshinweise, versionshistorie, neuerungen",
      .weak = ""},
     {.kind = DocumentKind::guide,
-     .nouns = "anleitung, anleitungen, handbuch, handbücher, leitfaden, leitfäden, guide, einführung, dokumentation, "
-              "tutorial, tutorials, ratgeber, gebrauchsanweisung, arbeitsanweisung, erste schritte",
+     .nouns = "anleitung, anleitungen, handbuch, handbücher, leitfaden, leitfäden, guide, einführung, "
+              "dokumentation, tutorial, tutorials, ratgeber, gebrauchsanweisung, arbeitsanweisung, "
+              "erste schritte, einarbeitungsplan",
      .weak = ""},
     {.kind = DocumentKind::data,
-     .nouns = "daten, datensatz, datensätze, tabelle, tabellen, statistik, statistiken, kennzahlen, messprotokoll, "
-              "teilnehmerliste, kundenliste",
+     .nouns = "daten, datensatz, datensätze, tabelle, tabellen, statistik, statistiken, kennzahlen, "
+              "messprotokoll, messwerte, liste",
      .weak = ""},
-    {.kind = DocumentKind::prompt, .nouns = "prompt, prompts, promptsammlung, ki-anweisung", .weak = ""},
+    {.kind = DocumentKind::prompt, .nouns = "prompt, prompts, systemprompt, prompt-vorlage", .weak = ""},
     {.kind = DocumentKind::design,
-     .nouns = "designentwurf, designkonzept, wireframe, wireframes, mockup, mockups, prototyp, logoentwurf, skizze",
+     .nouns = "designentwurf, wireframe, wireframes, mockup, mockups, prototyp, logoentwurf, skizze",
      .weak = ""},
     {.kind = DocumentKind::designSystem,
      .nouns = "designsystem, design system, styleguide, gestaltungsrichtlinie, gestaltungsrichtlinien, "
-              "designrichtlinien, markenhandbuch, stilrichtlinien",
+              "designrichtlinien, markenhandbuch",
      .weak = ""},
     {.kind = DocumentKind::marketingCopy,
-     .nouns = "werbetext, werbetexte, anzeigentext, slogan, produktbeschreibung, produkttext, broschüre, broschüren, "
-              "flyer, landingpage",
+     .nouns = "werbetext, werbetexte, anzeigentext, slogan, produktbeschreibung, produkttext, "
+              "broschüre, broschüren, flyer, landingpage, anzeigentexte",
      .weak = ""},
     {.kind = DocumentKind::sales,
      .nouns = "angebot, angebote, verkaufsunterlagen, vertriebsunterlagen, vertriebspräsentation, "
               "verkaufspräsentation, unternehmenspräsentation, produktkatalog, preisliste",
      .weak = ""},
     {.kind = DocumentKind::pressRelease,
-     .nouns = "pressemitteilung, pressemitteilungen, pressemeldung, presseinformation, pressetext, medienmitteilung",
+     .nouns = "pressemitteilung, pressemitteilungen, pressemeldung, presseinformation, pressetext, "
+              "medienmitteilung, pressemappe, presseerklärung",
      .weak = ""},
     {.kind = DocumentKind::newsletter,
-     .nouns = "newsletter, rundbrief, infobrief, mitarbeiterzeitung, vereinszeitung, gemeindebrief",
+     .nouns = "newsletter, rundbrief, infobrief, mitarbeiterzeitung, gemeindebrief",
      .weak = ""},
     {.kind = DocumentKind::socialPost,
-     .nouns = "social-media-beitrag, social-media-beiträge, social-media-post, linkedin-beitrag, linkedin-post, "
-              "instagram-beitrag, instagram-post, tweet",
+     .nouns = "social-media-beitrag, social-media-beiträge, social-media-post, linkedin-beitrag, "
+              "linkedin-post, instagram-beitrag, instagram-post, tweet, facebook-beitrag",
      .weak = ""},
     {.kind = DocumentKind::businessPlan,
      .nouns = "geschäftsplan, businessplan, business plan, geschäftsmodell, geschäftskonzept, geschäftsidee",
      .weak = ""},
     {.kind = DocumentKind::finance,
-     .nouns = "budget, budgetplan, finanzplan, kostenplan, haushaltsplan, rechnung, rechnungen, abrechnung, "
-              "kostenvoranschlag, jahresabschluss, bilanz, kalkulation, finanzbericht, haushaltsbuch, "
-              "steuererklärung, quittung, kostenaufstellung",
+     .nouns = "budget, budgetplan, finanzplan, kostenplan, haushaltsplan, rechnung, rechnungen, "
+              "abrechnung, kostenvoranschlag, jahresabschluss, bilanz, kalkulation, finanzbericht, "
+              "haushaltsbuch, steuererklärung, quittung, kostenaufstellung, budgetplanung, mahnung, "
+              "lieferschein",
      .weak = ""},
     {.kind = DocumentKind::legal,
      .nouns = "vertrag, verträge, vereinbarung, vereinbarungen, agb, allgemeine geschäftsbedingungen, "
               "nutzungsbedingungen, datenschutzerklärung, vollmacht, kündigung, lizenz, satzung, klage, "
-              "einverständniserklärung, widerspruch, übergabeprotokoll, abnahmeprotokoll, impressum",
+              "einverständniserklärung, widerspruch, übergabeprotokoll, abnahmeprotokoll, impressum, "
+              "bescheinigung",
      .weak = ""},
     {.kind = DocumentKind::policy,
      .nouns = "richtlinie, richtlinien, leitlinie, leitlinien, regelung, regelungen, regeln, vorschrift, "
@@ -132,8 +136,9 @@ constexpr Layered words[] = {
               "hygienekonzept",
      .weak = ""},
     {.kind = DocumentKind::notice,
-     .nouns = "mitteilung, mitteilungen, bekanntmachung, ankündigung, rundschreiben, einladung, einladungen, "
-              "hinweis, hinweise, aushang, elternbrief, merkblatt, informationsschreiben",
+     .nouns = "mitteilung, mitteilungen, bekanntmachung, ankündigung, rundschreiben, einladung, "
+              "einladungen, hinweis, hinweise, aushang, elternbrief, merkblatt, informationsschreiben, "
+              "infoschreiben",
      .weak = ""},
     {.kind = DocumentKind::jobPosting,
      .nouns = "stellenanzeige, stellenanzeigen, stellenausschreibung, stellenangebot, stellenangebote, "
@@ -141,14 +146,15 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::email,
      .nouns = "geschäftsbrief, begleitschreiben, dankschreiben, kündigungsschreiben, antwortschreiben, "
-              "beschwerdebrief, dankesmail, erinnerungsmail, einladungsmail, rundmail",
+              "beschwerdebrief, dankesmail, erinnerungsmail, einladungsmail, rundmail, willkommensmail, "
+              "e-mail an, mail an, dankesschreiben",
      .weak = "mail, mails, e-mail"},
     {.kind = DocumentKind::faq,
      .nouns = "häufige fragen, häufig gestellte fragen, faq, faqs, fragen und antworten, fragenkatalog",
      .weak = ""},
     {.kind = DocumentKind::blogPost,
      .nouns = "blogbeitrag, blogbeiträge, blogartikel, blogeintrag, blogpost, gastbeitrag, artikel, "
-              "erfahrungsbericht, reisebericht, reiseberichte, reportage",
+              "erfahrungsbericht, reisebericht, reportage",
      .weak = ""},
     {.kind = DocumentKind::script,
      .nouns = "drehbuch, rede, reden, sprechtext, videoskript, theaterstück, untertitel, ansprache, laudatio, "
@@ -159,52 +165,53 @@ constexpr Layered words[] = {
               "gedichtinterpretation, buchbesprechung",
      .weak = ""},
     {.kind = DocumentKind::story,
-     .nouns = "kurzgeschichte, roman, romane, märchen, erzählung, gedicht, gedichte, novelle, fabel, liedtext, "
-              "kurzgeschichten",
+     .nouns = "kurzgeschichte, roman, märchen, erzählung, gedicht, gedichte, novelle, fabel, liedtext",
      .weak = ""},
     {.kind = DocumentKind::translation,
      .nouns = "übersetzung, übersetzungen, deutsche fassung, englische fassung, lokalisierung",
      .weak = ""},
     {.kind = DocumentKind::learning,
      .nouns = "lehrplan, lehrpläne, lehrmaterial, lehrmaterialien, lernmaterial, unterrichtsmaterial, "
-              "unterrichtsmaterialien, unterrichtsentwurf, unterrichtsplanung, stundenentwurf, schulungsunterlagen, "
-              "kursunterlagen, lehrbuch, modulhandbuch, unterrichtskonzept",
+              "unterrichtsmaterialien, unterrichtsentwurf, unterrichtsplanung, stundenentwurf, "
+              "schulungsunterlagen, kursunterlagen, lehrbuch, modulhandbuch",
      .weak = ""},
     {.kind = DocumentKind::lectureNotes,
-     .nouns = "mitschrift, mitschriften, vorlesungsnotizen, vorlesungsskript, unterrichtsnotizen",
+     .nouns = "mitschrift, mitschriften, vorlesungsnotizen, vorlesungsskript, vorlesungsmitschrift",
      .weak = ""},
     {.kind = DocumentKind::studyNotes,
-     .nouns = "lernzettel, lernzusammenfassung, lernnotizen, karteikarten, prüfungsvorbereitung, "
-              "klausurvorbereitung, vokabelliste, vokabeln, formelsammlung",
+     .nouns = "lernzettel, karteikarten, prüfungsvorbereitung, klausurvorbereitung, vokabelliste, "
+              "vokabeln, formelsammlung, lernkarten, spickzettel, zusammenfassung",
      .weak = ""},
     {.kind = DocumentKind::readingNotes,
-     .nouns = "lesenotizen, buchzusammenfassung, lesetagebuch, buchnotizen, exzerpt, inhaltsangabe, buchvorstellung",
+     .nouns = "lesenotizen, buchzusammenfassung, lesetagebuch, exzerpt, inhaltsangabe, buchvorstellung, "
+              "leseprotokoll",
      .weak = ""},
     {.kind = DocumentKind::exercises,
      .nouns = "übungsaufgabe, übungsaufgaben, übung, übungen, übungsblatt, übungsblätter, arbeitsblatt, "
               "arbeitsblätter, aufgabenblatt, hausaufgabe, hausaufgaben",
      .weak = ""},
     {.kind = DocumentKind::solutions,
-     .nouns = "musterlösung, musterlösungen, lösungen, lösungsblatt, lösungsweg, lösungsvorschlag, "
-              "erwartungshorizont",
+     .nouns = "musterlösung, lösungen, lösungsblatt, lösungsweg, lösungsvorschlag, erwartungshorizont, "
+              "lösungsheft",
      .weak = ""},
     {.kind = DocumentKind::quiz,
-     .nouns = "klausur, klausuren, klassenarbeit, klassenarbeiten, prüfungsfragen, prüfungsaufgaben, "
-              "abschlussprüfung, vokabeltest",
+     .nouns = "klausur, klausuren, klassenarbeit, prüfungsfragen, abschlussprüfung, vokabeltest",
      .weak = "prüfung, prüfungen, quiz"},
     {.kind = DocumentKind::paper,
-     .nouns = "abschlussarbeit, bachelorarbeit, masterarbeit, dissertation, doktorarbeit, hausarbeit, hausarbeiten, "
-              "seminararbeit, facharbeit, fachartikel, bachelorarbeiten",
+     .nouns = "abschlussarbeit, bachelorarbeit, masterarbeit, dissertation, doktorarbeit, hausarbeit, "
+              "seminararbeit, facharbeit, projektarbeit",
      .weak = ""},
-    {.kind = DocumentKind::journal, .nouns = "tagebuch, tagebücher, tagebucheintrag, tagebucheinträge", .weak = ""},
+    {.kind = DocumentKind::journal, .nouns = "tagebuch, tagebucheintrag, tagebucheinträge", .weak = ""},
     {.kind = DocumentKind::resume,
-     .nouns = "lebenslauf, bewerbung, bewerbungen, bewerbungsschreiben, anschreiben, motivationsschreiben, "
-              "bewerbungsunterlagen, empfehlungsschreiben, lebensläufe, arbeitszeugnis",
+     .nouns = "lebenslauf, bewerbung, bewerbungen, bewerbungsschreiben, anschreiben, "
+              "motivationsschreiben, bewerbungsunterlagen, empfehlungsschreiben, arbeitszeugnis",
      .weak = ""},
     {.kind = DocumentKind::travelPlan,
      .nouns = "reiseplan, reiseplanung, reiseroute, reiseverlauf, reiseprogramm, urlaubsplan, urlaubsplanung",
      .weak = ""},
-    {.kind = DocumentKind::recipe, .nouns = "rezept, rezepte, kochbuch, speiseplan, essensplan", .weak = ""},
+    {.kind = DocumentKind::recipe,
+     .nouns = "rezept, rezepte, kochbuch, speiseplan, essensplan, rezeptsammlung",
+     .weak = ""},
 };
 
 }  // namespace

@@ -21,19 +21,21 @@ constexpr std::array<Layered, 55> words{{
      "tài liệu yêu cầu, thông số kỹ thuật, phân tích yêu cầu, yêu cầu nghiệp vụ, yêu cầu phần mềm",
      ""},
     {DocumentKind::plan,
-     "kế hoạch, bản kế hoạch, dự thảo kế hoạch, lộ trình, chiến lược, thời gian biểu, thời khóa biểu, "
-     "thời khoá biểu, lịch làm việc, lịch trình dự án, mục tiêu, timeline dự án, bảng kế hoạch, tiến độ dự án, "
-     "lịch công tác",
+     "kế hoạch, bản kế hoạch, lộ trình, chiến lược, thời gian biểu, thời khóa biểu, thời khoá "
+     "biểu, lịch làm việc, lịch trình dự án, mục tiêu, timeline dự án, bảng kế hoạch, tiến độ "
+     "dự án, lịch công tác, lịch trình công tác",
      ""},
-    {DocumentKind::userStories, "câu chuyện người dùng, trường hợp sử dụng, tiêu chí chấp nhận, tiêu chí nghiệm thu",
+    {DocumentKind::userStories,
+     "câu chuyện người dùng, trường hợp sử dụng, tiêu chí chấp nhận, tiêu chí nghiệm thu, ca "
+     "sử dụng",
      ""},
     {DocumentKind::meetingNotes,
      "biên bản, ghi chú cuộc họp, ghi chú họp, nội dung cuộc họp, tóm tắt cuộc họp, chương trình họp, "
      "ghi chép cuộc họp, kết luận cuộc họp",
      ""},
     {DocumentKind::report,
-     "báo cáo, bản báo cáo, dự thảo báo cáo, phân tích, đánh giá, tổng kết, kiểm toán, bài báo cáo, sơ kết, "
-     "bản đánh giá, mẫu báo cáo",
+     "báo cáo, bản báo cáo, phân tích, đánh giá, tổng kết, kiểm toán, bài báo cáo, sơ kết, bản "
+     "đánh giá",
      ""},
     {DocumentKind::research,
      "nghiên cứu, bài nghiên cứu, khảo sát, phân tích thị trường, phân tích đối thủ, phân tích swot, so sánh, "
@@ -45,16 +47,16 @@ constexpr std::array<Layered, 55> words{{
      "danh sách kiểm tra, bảng kiểm, danh sách công việc, việc cần làm, danh sách việc cần làm, danh sách mua sắm, "
      "checklist công việc, những việc cần làm, công việc cần làm, checklist chuẩn bị",
      ""},
-    {DocumentKind::proposal, "đề xuất, bản đề xuất, tờ trình, đề án, phương án, kiến nghị, mẫu đề xuất", ""},
-    {DocumentKind::memo, "ghi chú, ghi nhớ, ghi chép, lời nhắc", ""},
+    {DocumentKind::proposal, "đề xuất, bản đề xuất, tờ trình, đề án, phương án, kiến nghị", ""},
+    {DocumentKind::memo, "ghi chú, ghi nhớ, ghi chép, lời nhắc, bản ghi nhớ", ""},
     {DocumentKind::presentation,
      "bài thuyết trình, thuyết trình, bản trình bày, bài trình bày, slide thuyết trình, tham luận, "
      "slide báo cáo",
      ""},
     {DocumentKind::designDoc,
-     "tài liệu thiết kế, thiết kế hệ thống, thiết kế kỹ thuật, thiết kế phần mềm, thiết kế cơ sở dữ liệu, "
-     "thiết kế api, kiến trúc hệ thống, kiến trúc phần mềm, mô hình dữ liệu, sơ đồ kiến trúc, "
-     "quyết định kiến trúc, sơ đồ lớp, giải pháp kỹ thuật",
+     "tài liệu thiết kế, thiết kế hệ thống, thiết kế kỹ thuật, thiết kế phần mềm, thiết kế cơ "
+     "sở dữ liệu, thiết kế api, kiến trúc hệ thống, kiến trúc phần mềm, mô hình dữ liệu, sơ đồ "
+     "kiến trúc, sơ đồ lớp, giải pháp kỹ thuật",
      ""},
     {DocumentKind::apiDoc, "tài liệu api, đặc tả api, hướng dẫn api, tài liệu tích hợp api, mô tả api", ""},
     {DocumentKind::testPlan,
@@ -91,9 +93,11 @@ constexpr std::array<Layered, 55> words{{
      "bài viết bán hàng, content bán hàng, content quảng cáo, bài pr",
      ""},
     {DocumentKind::sales,
-     "tài liệu bán hàng, hồ sơ năng lực, kịch bản bán hàng, kịch bản telesale, bảng giá, thư chào hàng, thư ngỏ", ""},
-    {DocumentKind::pressRelease, "thông cáo, bản tin báo chí, bài thông cáo báo chí", ""},
-    {DocumentKind::newsletter, "bản tin, điểm tin, thư tin tức", ""},
+     "tài liệu bán hàng, hồ sơ năng lực, kịch bản bán hàng, kịch bản telesale, bảng giá, thư "
+     "chào hàng, thư ngỏ, chào hàng",
+     ""},
+    {DocumentKind::pressRelease, "thông cáo, bài thông cáo báo chí", ""},
+    {DocumentKind::newsletter, "bản tin, điểm tin", ""},
     {DocumentKind::socialPost,
      "bài đăng, bài post, bài viết facebook, bài viết fanpage, bài viết linkedin, bài viết mạng xã hội, "
      "nội dung mạng xã hội, content facebook, caption cho, caption facebook",
@@ -119,29 +123,30 @@ constexpr std::array<Layered, 55> words{{
      "tuyển nhân viên, bài tuyển dụng",
      ""},
     {DocumentKind::email,
-     "thư điện tử, email gửi, email cảm ơn, email mời, email xin, mẫu email, thư cảm ơn, thư gửi, thư xin lỗi, "
-     "công văn, email xác nhận",
+     "thư điện tử, email gửi, email cảm ơn, email mời, email xin, mẫu email, thư cảm ơn, thư "
+     "gửi, thư xin lỗi, công văn, email xác nhận, đơn xin nghỉ việc",
      "thư"},
-    {DocumentKind::faq,
-     "câu hỏi thường gặp, những câu hỏi thường gặp, hỏi đáp, hỏi và đáp, giải đáp thắc mắc, các câu hỏi thường gặp",
-     ""},
+    {DocumentKind::faq, "câu hỏi thường gặp, những câu hỏi thường gặp, hỏi đáp, hỏi và đáp, giải đáp thắc mắc", ""},
     {DocumentKind::blogPost, "bài viết, bài blog, bài đăng blog, bài báo, phóng sự", ""},
     {DocumentKind::script, "kịch bản, lời thoại, phụ đề, bài phát biểu, lời dẫn", ""},
     {DocumentKind::essay,
-     "bài luận, tiểu luận, bài tiểu luận, bài văn, cảm nhận, cảm nghĩ, tản văn, phê bình, review phim, "
+     "bài luận, bài tiểu luận, bài văn, cảm nhận, cảm nghĩ, tản văn, phê bình, review phim, "
      "phân tích bài thơ, phân tích tác phẩm, nghị luận",
      ""},
     {DocumentKind::story, "truyện, tiểu thuyết, bài thơ, thơ, cổ tích, lời bài hát", ""},
-    {DocumentKind::translation, "bản dịch, bài dịch, tài liệu dịch, dịch thuật", ""},
+    {DocumentKind::translation, "bản dịch, bài dịch, tài liệu dịch, dịch thuật, dịch tài liệu", ""},
     {DocumentKind::learning,
      "giáo án, giáo trình, tài liệu học tập, tài liệu đào tạo, chương trình đào tạo, chương trình học, khóa học, "
      "khoá học, bài học, đề cương môn học, kế hoạch bài dạy, kế hoạch đào tạo, chuyên đề, chương trình giảng dạy",
      ""},
-    {DocumentKind::lectureNotes, "bài giảng, ghi chép bài giảng, ghi chú bài giảng, tóm tắt bài giảng, slide bài giảng",
+    {DocumentKind::lectureNotes,
+     "bài giảng, ghi chép bài giảng, ghi chú bài giảng, tóm tắt bài giảng, slide bài giảng, vở "
+     "ghi",
      ""},
     {DocumentKind::studyNotes,
-     "ghi chú học tập, ghi chép học tập, đề cương ôn tập, đề cương ôn thi, ôn tập, tài liệu ôn tập, "
-     "tóm tắt kiến thức, tổng hợp kiến thức, sơ đồ tư duy, thẻ ghi nhớ, từ vựng, công thức toán",
+     "ghi chú học tập, ghi chép học tập, đề cương ôn tập, đề cương ôn thi, ôn tập, tài liệu ôn "
+     "tập, tóm tắt kiến thức, tổng hợp kiến thức, sơ đồ tư duy, thẻ ghi nhớ, từ vựng, công "
+     "thức toán, ghi chú ôn thi, tài liệu ôn thi",
      ""},
     {DocumentKind::readingNotes,
      "ghi chú đọc sách, nhật ký đọc sách, tóm tắt sách, tóm tắt tác phẩm, cảm nhận sách, điểm sách, review sách", ""},
@@ -151,15 +156,16 @@ constexpr std::array<Layered, 55> words{{
      "đề thi, bài thi, đề kiểm tra, bài kiểm tra, trắc nghiệm, bài trắc nghiệm, câu hỏi trắc nghiệm, "
      "ngân hàng câu hỏi, kiểm tra giữa kỳ, bộ đề, câu đố, thi thử",
      ""},
-    {DocumentKind::errorNotes, "sổ tay lỗi sai, sổ lỗi sai, tổng hợp lỗi sai, lỗi sai, những câu sai", ""},
+    {DocumentKind::errorNotes, "sổ tay lỗi sai, sổ lỗi sai, tổng hợp lỗi sai, lỗi sai, sổ ghi lỗi", ""},
     {DocumentKind::paper,
-     "luận văn, luận án, khóa luận, khoá luận, đồ án, bài báo khoa học, công trình nghiên cứu, đề tài nghiên cứu, "
-     "nghiên cứu khoa học, chuyên đề tốt nghiệp, đề cương luận văn",
+     "luận văn, luận án, khóa luận, khoá luận, đồ án, bài báo khoa học, công trình nghiên cứu, "
+     "đề tài nghiên cứu, nghiên cứu khoa học, chuyên đề tốt nghiệp, đề cương luận văn, tiểu "
+     "luận",
      ""},
     {DocumentKind::journal, "nhật ký, nhật kí, sổ nhật ký", ""},
     {DocumentKind::resume,
-     "sơ yếu lý lịch, sơ yếu lí lịch, lý lịch, hồ sơ xin việc, đơn xin việc, thư xin việc, cv xin việc, cv của, "
-     "thư ứng tuyển",
+     "sơ yếu lý lịch, lý lịch, hồ sơ xin việc, đơn xin việc, thư xin việc, cv xin việc, cv "
+     "của, thư ứng tuyển",
      ""},
     {DocumentKind::travelPlan,
      "kế hoạch du lịch, lịch trình, kế hoạch chuyến đi, kế hoạch đi chơi, hành trình, cẩm nang du lịch, "
