@@ -73,7 +73,7 @@ constexpr Base words[] = {
      .names = "缺陷报告, bug报告, bug 报告",
      .cues = "缺陷",
      .weak = "",
-     .markers = ""},
+     .markers = "复现, 预期结果, 实际结果"},
     {.kind = DocumentKind::codeReview, .names = "代码审查, 代码评审", .cues = "代码", .weak = "", .markers = ""},
     {.kind = DocumentKind::postmortem,
      .names = "故障报告, 事故报告, 故障复盘, 事故复盘, 故障复盘报告",
@@ -148,7 +148,7 @@ constexpr Base words[] = {
      .names = "招聘启事, 招聘, 招聘公告, 岗位职责, 职位描述",
      .cues = "岗位",
      .weak = "",
-     .markers = ""},
+     .markers = "岗位职责, 任职要求, 薪资"},
     {.kind = DocumentKind::email,
      .names = "感谢信, 辞职信, 一封信",
      .cues = "回复",
@@ -208,7 +208,11 @@ constexpr Base words[] = {
      .cues = "旅游",
      .weak = "",
      .markers = ""},
-    {.kind = DocumentKind::recipe, .names = "食谱, 食譜, 菜谱, 做法", .cues = "烹饪", .weak = "", .markers = ""},
+    {.kind = DocumentKind::recipe,
+     .names = "食谱, 食譜, 菜谱, 做法",
+     .cues = "烹饪",
+     .weak = "",
+     .markers = "食材, 适量, 小火"},
 };
 
 }  // namespace

@@ -47,7 +47,7 @@ constexpr auto rows = std::to_array<Base>({
               "executive summary, dashboard, white paper, whitepaper, business review, qbr",
      .cues = "weekly, monthly, quarterly, annual, progress, status, kpi, performance",
      .weak = "update, snapshot",
-     .markers = "this week, next week, blocker, executive summary, key finding, recommendation"},
+     .markers = "this week, next week, blocker, executive summary, key finding"},
     {.kind = research,
      .names = "research, survey, research report, survey report, competitive analysis, competitor analysis, "
               "market analysis, literature review, case study, comparison, feasibility study, user interview, "
@@ -60,7 +60,7 @@ constexpr auto rows = std::to_array<Base>({
               "sprint review, project review, annual review",
      .cues = "retrospective, lessons, year in review",
      .weak = "year, learnings",
-     .markers = "what went well, keep problem try, what didn't go well, what could be improved, what we learned"},
+     .markers = "what went well, keep problem try, what didn't go well, what we learned"},
     {.kind = checklist,
      .names = "checklist, task list, todo list, to do list, shopping list, packing list, grocery list, bucket list",
      .cues = "daily, today, packing, list",
@@ -87,21 +87,21 @@ constexpr auto rows = std::to_array<Base>({
               "level design, schema, diagram, erd, threat model",
      .cues = "architecture, microservice, database, infrastructure, backend",
      .weak = "diagram, decision, model",
-     .markers = "context, decision, consequences, alternatives considered, trade off"},
+     .markers = "context, decision, consequences, alternative, alternatives considered, trade off"},
     {.kind = apiDoc,
      .names = "api, api doc, api documentation, api reference, api spec, api specification, api guide, api contract, "
               "endpoint, openapi, openapi spec, openapi specification, swagger, sdk reference, sdk documentation, "
               "graphql schema",
      .cues = "api, endpoint, graphql, webhook, sdk",
      .weak = "reference, contract",
-     .markers = "request body, endpoint, status code, get v, post v"},
+     .markers = "request body, query parameter, endpoint, status code, bearer, get v, post v"},
     {.kind = testPlan,
      .names = "test plan, test case, test scenario, test strategy, test suite, test spec, test specification, "
               "test checklist, test coverage, testing strategy, testing plan, acceptance test, qa plan, uat plan, "
               "validation plan, verification plan",
      .cues = "test, testing, qa, regression, end to end",
      .weak = "test plan, case, coverage",
-     .markers = "expected result, precondition, test case, exit criteria, tc"},
+     .markers = "expected result, precondition, test case, tc"},
     {.kind = bugReport,
      .names = "bug report, bug, defect, defect report, issue report, crash report, error report, bug list, "
               "known issue, bug analysis",
@@ -125,7 +125,7 @@ constexpr auto rows = std::to_array<Base>({
               "update log, what's new, breaking change",
      .cues = "release, changes, patch",
      .weak = "history",
-     .markers = "added, changed, fixed, removed, bug fix, breaking change"},
+     .markers = "added, changed, fixed, removed, bug fix, breaking change, new feature, improvement"},
     {.kind = guide,
      .names = "guide, manual, tutorial, how to, howto, readme, runbook, playbook, handbook, walkthrough, guideline, "
               "best practice, getting started, quickstart, quick start, instruction, onboarding, sop, procedure, "
@@ -155,7 +155,7 @@ constexpr auto rows = std::to_array<Base>({
               "component library, component guideline, design token, color palette, ui kit",
      .cues = "brand, component",
      .weak = "",
-     .markers = "typography, variant, color token"},
+     .markers = "typography"},
     {.kind = marketingCopy,
      .names = "ad copy, marketing copy, landing page copy, website copy, email copy, tagline, slogan, headline, "
               "product description, brochure, flyer, value proposition",
@@ -177,7 +177,7 @@ constexpr auto rows = std::to_array<Base>({
      .names = "newsletter, digest, bulletin, roundup",
      .cues = "digest",
      .weak = "",
-     .markers = "unsubscribe, in this issue, subscriber"},
+     .markers = "unsubscribe, in this issue, subscriber, view in browser"},
     {.kind = socialPost,
      .names = "social post, social media post, linkedin post, instagram post, facebook post, tweet, twitter thread, "
               "caption",
@@ -209,7 +209,7 @@ constexpr auto rows = std::to_array<Base>({
               "employee handbook",
      .cues = "conduct, code of conduct, ethics, compliance",
      .weak = "code, charter",
-     .markers = ""},
+     .markers = "this policy, policy applies, effective date, violation"},
     {.kind = notice,
      .names = "notice, announcement, invitation, advisory, reminder, save the date",
      .cues = "maintenance, event",
@@ -265,12 +265,12 @@ constexpr auto rows = std::to_array<Base>({
               "training material, study guide, study plan, textbook, lesson, workbook",
      .cues = "learning, training, course",
      .weak = "unit, module",
-     .markers = "learning objective, homework, learning outcome"},
+     .markers = "learning objective, homework, learning outcome, warm up, assessment"},
     {.kind = lectureNotes,
      .names = "lecture note, class note, course note, lecture, lecture transcript",
      .cues = "lecture, class, seminar, webinar",
      .weak = "",
-     .markers = "lecture, theorem, definition"},
+     .markers = ""},
     {.kind = studyNotes,
      .names = "study note, revision note, learning log, summary note, til, today i learned, learning note, "
               "vocabulary list, formula sheet, exam review, study guide note",
@@ -322,7 +322,7 @@ constexpr auto rows = std::to_array<Base>({
               "recommendation letter, reference letter, resume cv, candidate profile",
      .cues = "engineer, developer, designer, manager, career, professional, my",
      .weak = "resume, cv",
-     .markers = "work experience, education, skill"},
+     .markers = "experience, education, skill"},
     {.kind = travelPlan,
      .names = "itinerary, travel plan, travel schedule, travel guide, trip plan, trip, vacation plan, "
               "travel checklist, travel budget",
@@ -333,7 +333,7 @@ constexpr auto rows = std::to_array<Base>({
      .names = "recipe, meal plan, menu, cookbook, recipe book, diet plan",
      .cues = "cooking, baking, ingredient",
      .weak = "",
-     .markers = "tablespoon, teaspoon, tbsp, ingredient, simmer"},
+     .markers = "tablespoon, teaspoon, tbsp, ingredient"},
 });
 
 }  // namespace
