@@ -30,7 +30,7 @@ constexpr auto rows = std::to_array<Base>({
               "work breakdown structure, wbs, project charter",
      .cues = "milestone, sprint, okr, go to market, roadmap, phase",
      .weak = "goal, objective, strategy, initiative",
-     .markers = "milestone, deliverable, phase"},
+     .markers = "milestone, deliverable, phase, owner"},
     {.kind = userStories,
      .names = "user story, user stories, use case, user scenario, epic, acceptance criteria, product backlog",
      .cues = "acceptance, user",
@@ -47,7 +47,7 @@ constexpr auto rows = std::to_array<Base>({
               "executive summary, dashboard, white paper, whitepaper, business review, qbr",
      .cues = "weekly, monthly, quarterly, annual, progress, status, kpi, performance",
      .weak = "update, snapshot",
-     .markers = "this week, next week, blocker, executive summary, key finding"},
+     .markers = "this week, next week, blocker"},
     {.kind = research,
      .names = "research, survey, research report, survey report, competitive analysis, competitor analysis, "
               "market analysis, literature review, case study, comparison, feasibility study, user interview, "
@@ -60,7 +60,7 @@ constexpr auto rows = std::to_array<Base>({
               "sprint review, project review, annual review",
      .cues = "retrospective, lessons, year in review",
      .weak = "year, learnings",
-     .markers = "what went well, keep problem try, what didn't go well, what we learned"},
+     .markers = "what went well, keep problem try, what didn't go well"},
     {.kind = checklist,
      .names = "checklist, task list, todo list, to do list, shopping list, packing list, grocery list, bucket list",
      .cues = "daily, today, packing, list",
@@ -125,7 +125,7 @@ constexpr auto rows = std::to_array<Base>({
               "update log, what's new, breaking change",
      .cues = "release, changes, patch",
      .weak = "history",
-     .markers = "added, changed, fixed, removed, bug fix, breaking change, new feature, improvement"},
+     .markers = "added, changed, fixed, bug fix, breaking change, new feature, improvement"},
     {.kind = guide,
      .names = "guide, manual, tutorial, how to, howto, readme, runbook, playbook, handbook, walkthrough, guideline, "
               "best practice, getting started, quickstart, quick start, instruction, onboarding, sop, procedure, "
@@ -143,7 +143,7 @@ constexpr auto rows = std::to_array<Base>({
               "agent instruction",
      .cues = "llm, chatbot, agent",
      .weak = "",
-     .markers = "you are a, your task, output format"},
+     .markers = "you are a, you are an, your task, output format"},
     {.kind = design,
      .names = "mockup, wireframe, prototype, persona, moodboard, mood board, user flow, ui design, "
               "design brief, creative brief, sitemap, journey map, layout, logo design",
@@ -196,7 +196,7 @@ constexpr auto rows = std::to_array<Base>({
               "financial plan, payroll, ledger, cost breakdown",
      .cues = "financial, revenue, expense, tax",
      .weak = "bill",
-     .markers = "subtotal, vat, total, amount due"},
+     .markers = "subtotal, vat, total"},
     {.kind = legal,
      .names = "contract, agreement, nda, terms, terms and conditions, privacy policy, privacy notice, license, "
               "licence, lease, sla, msa, mou, sow, eula, disclaimer, patent, patent application, legal opinion, "
@@ -220,12 +220,12 @@ constexpr auto rows = std::to_array<Base>({
               "role description, position description",
      .cues = "hiring, job",
      .weak = "opening, position",
-     .markers = "about the role, responsibilities, qualification, nice to have, how to apply, we offer"},
+     .markers = "responsibilities, qualification, nice to have, how to apply, we offer"},
     {.kind = email,
      .names = "letter, reply, email draft, email reply, thank you note, outreach email, cold email",
      .cues = "welcome, follow up, thank you, outreach, apology, client, draft",
      .weak = "email, e mail, mail",
-     .markers = "best regards, sincerely, dear, subject"},
+     .markers = "best regards, sincerely, dear, subject, let me know, thanks"},
     {.kind = faq,
      .names = "faq, q a, q and a, qna, question, help article, support article, "
               "questions and answers",
@@ -328,12 +328,12 @@ constexpr auto rows = std::to_array<Base>({
               "travel checklist, travel budget",
      .cues = "travel, trip, vacation",
      .weak = "route",
-     .markers = "flight, hotel, check in"},
+     .markers = ""},
     {.kind = recipe,
      .names = "recipe, meal plan, menu, cookbook, recipe book, diet plan",
      .cues = "cooking, baking, ingredient",
      .weak = "",
-     .markers = "tablespoon, teaspoon, tbsp, ingredient"},
+     .markers = "tablespoon, teaspoon, tbsp, tsp, ingredient, serves"},
 });
 
 }  // namespace
