@@ -95,7 +95,9 @@ std::size_t nextValue(std::string_view text, std::size_t from, bool takesBareNum
                 break;
             case Opening::digit: {
                 const char before = start == 0 ? ' ' : text[start - 1];
-                const std::size_t end = std::min(text.find_first_not_of("0123456789,.", start), text.size());
+                std::size_t end = start + 1;
+                while (end < text.size() && (isDigit(text[end]) || text[end] == ',' || text[end] == '.'))
+                    ++end;
                 const bool isInside = isAlphanumeric(before) || before == '.' || before == ',';
                 const bool isValue =
                     mayHaveUnit(text, end) || (takesBareNumbers && isLongOrGrouped(text.substr(start, end - start)));

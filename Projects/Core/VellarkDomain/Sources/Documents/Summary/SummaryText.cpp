@@ -55,6 +55,30 @@ std::size_t whitespaceEnd(std::string_view text, std::size_t offset) {
     return GraphemeBreak::next(text, offset);
 }
 
+// Whether a character that begins with this byte stands apart from a blank on either side: printable ASCII, Chinese
+// characters, and Hangul syllables but for the first of their lead bytes, which marks have too.
+bool standsApart(char byte) {
+    const auto value = static_cast<unsigned char>(byte);
+    return (value > ' ' && value < 0x7F) || (value >= 0xE4 && value <= 0xE9) || (value >= 0xEB && value <= 0xED);
+}
+
+// Whether the words are plainly joined with single blanks already, as those of most lines are.
+bool isCollapsed(std::string_view text) {
+    bool isApart = false;  // the last character
+    for (std::size_t offset = 0; offset < text.size(); ++offset) {
+        const char byte = text[offset];
+        if (byte == ' ') {
+            if (!isApart || offset + 1 == text.size() || !standsApart(text[offset + 1])) return false;
+            isApart = false;
+        } else if (mayBeginWhitespace[static_cast<unsigned char>(byte)]) {
+            return false;
+        } else if ((static_cast<unsigned char>(byte) & 0xC0U) != 0x80) {
+            isApart = standsApart(byte);
+        }
+    }
+    return true;
+}
+
 std::string joinedWords(std::string_view text, std::string_view separator) {
     std::string result;
     result.reserve(text.size());
@@ -111,11 +135,12 @@ Colon findColon(std::string_view text) {
 }
 
 std::string collapsed(std::string_view text) {
-    return joinedWords(text, " ");
+    return isCollapsed(text) ? std::string(text) : joinedWords(text, " ");
 }
 
 std::string withoutWhitespace(std::string_view text) {
-    return joinedWords(text, "");
+    const auto mayBegin = [](char byte) { return mayBeginWhitespace[static_cast<unsigned char>(byte)]; };
+    return std::none_of(text.begin(), text.end(), mayBegin) ? std::string(text) : joinedWords(text, "");
 }
 
 std::vector<std::string_view> split(std::string_view text, std::string_view separator) {

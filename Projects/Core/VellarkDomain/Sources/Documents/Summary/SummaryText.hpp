@@ -1,5 +1,8 @@
 #pragma once
 
+#include <VellarkFoundation/Text/Whitespace.hpp>
+#include <VellarkFoundation/Unicode/Graphemes.hpp>
+
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -21,6 +24,17 @@ namespace vellark::SummaryText {
 
 [[nodiscard]] inline bool contains(std::string_view text, std::string_view needle) {
     return find(text, needle) != std::string_view::npos;
+}
+
+/// As GraphemeBreak::startsWith, most answers from the first byte alone. The prefix must not be empty.
+[[nodiscard]] inline bool startsWith(std::string_view text, std::string_view prefix) {
+    return !text.empty() && text.front() == prefix.front() && GraphemeBreak::startsWith(text, prefix);
+}
+
+/// As Whitespace::trimmed, most answers from the outer bytes alone.
+[[nodiscard]] inline std::string_view trimmed(std::string_view text) {
+    const auto isPlain = [](char byte) { return byte > ' ' && byte < 0x7F; };
+    return !text.empty() && isPlain(text.front()) && isPlain(text.back()) ? text : Whitespace::trimmed(text);
 }
 
 /// The first ":" or full-width "：", and its bytes. `offset` is `npos` without one.
