@@ -55,6 +55,14 @@ inline constexpr auto table = [] {
     return all;
 }
 
+/// Whether the scalar at the offset is a Chinese character or a Hangul syllable, by its bytes: a letter without case
+/// that stands apart from its neighbours, composes with nothing before it, and opens no mark of a line.
+[[nodiscard]] inline bool isSyllable(std::string_view text, std::size_t offset) {
+    const auto lead = static_cast<unsigned char>(text[offset]);
+    if (lead == 0xEA) return offset + 1 < text.size() && static_cast<unsigned char>(text[offset + 1]) >= 0xB0;
+    return (lead >= 0xE4 && lead <= 0xE9) || (lead >= 0xEB && lead <= 0xED);
+}
+
 /// The first byte at or behind `from` that has one of the traits; the text's size without one.
 [[nodiscard]] inline std::size_t findAny(std::string_view text, Traits traits, std::size_t from = 0) {
     while (from < text.size() && (of(text[from]) & traits) == 0)

@@ -33,9 +33,7 @@ bool isPlainlyCased(std::string_view text) {
     for (std::size_t offset = 0; offset < text.size(); ++offset) {
         const auto byte = static_cast<unsigned char>(text[offset]);
         const bool isContinuation = byte >= 0x80 && byte < 0xC0;
-        const bool isCaseless = (byte >= 0xE4 && byte <= 0xE9) || (byte >= 0xEB && byte <= 0xED);
-        const bool isFirstHangul = byte == 0xEA && offset + 1 < text.size() && text[offset + 1] >= '\xB0';
-        if (byte >= 0x80 && !isContinuation && !isCaseless && !isFirstHangul) return false;
+        if (byte >= 0x80 && !isContinuation && !SummaryBytes::isSyllable(text, offset)) return false;
     }
     return true;
 }
@@ -173,6 +171,7 @@ std::optional<std::string> firstItem(Lines lines) {
 std::optional<std::string> firstSentence(Lines lines) {
     auto [text, items] = DocumentSummaryExtractor::prose(lines);
     if (!items.empty()) text = items.front();
+    if (text.empty()) return std::nullopt;
     if (pointsToList(text)) {
         auto item = firstItem(lines);
         if (!item) return std::nullopt;
@@ -264,6 +263,8 @@ std::optional<std::string> conclusion(Lines lines, bool markdown, bool isComplet
 }
 
 bool isConclusionName(std::string_view text) {
+    constexpr std::size_t shortestName = 4;  // bytes
+    if (text.size() < shortestName) return false;
     const std::string name = lookedUp(withoutTitleNumber(text));
     std::string_view first = name;
     if (mayHoldSeparator(name)) {

@@ -358,14 +358,14 @@ std::optional<std::string> tableFact(const FactLine& line, FactKind kind) {
     return lineFact(cell, kind);
 }
 
-// The lines of a document, which several searches go through.
+// The lines of a document but for its headings, which several searches go through.
 class FactSearch {
 public:
     explicit FactSearch(DocumentSummaryExtractor::Lines prose) {
         lines_.reserve(prose.size());
         for (const std::string_view line : prose) {
             const std::string_view trimmed = SummaryText::trimmed(line);
-            if (!trimmed.empty()) lines_.emplace_back(trimmed);
+            if (!trimmed.empty() && !startsWith(trimmed, "#")) lines_.emplace_back(trimmed);
         }
     }
 

@@ -1,3 +1,4 @@
+#include <VellarkDomain/Documents/Summary/SummaryBytes.hpp>
 #include <VellarkDomain/Documents/Summary/SummaryMarkers.hpp>
 #include <VellarkFoundation/Text/UTF8.hpp>
 #include <VellarkFoundation/Unicode/CharacterClass.hpp>
@@ -97,24 +98,31 @@ std::size_t behindRomanNumber(std::string_view text) {
     return numerals > 0 && stands(text, numerals, ".") ? numerals + 1 : numerals;
 }
 
-// Whether a section number may begin with this byte. Hangul has one word that does, and shares its lead bytes with no
-// digit but those before it.
+// Whether the text begins with a letter of ASCII, a Chinese character or Hangul, which open no mark.
+bool startsPlainly(std::string_view text) {
+    if (text.empty()) return true;
+    const char first = text.front();
+    const bool isLetter = (first >= 'a' && first <= 'z') || (first >= 'A' && first <= 'Z');
+    return isLetter || SummaryBytes::isSyllable(text, 0);
+}
+
+// Whether a section number may begin here.
 bool mayOpenNumber(std::string_view text) {
     if (text.empty()) return false;
-    const auto first = static_cast<unsigned char>(text.front());
-    if (first < 0x80) return std::string_view("IVXivx0123456789 \t\n\v\f\r").find(text.front()) != npos;
-    if (first >= 0xE4 && first <= 0xE9) return false;
-    return first < 0xEB || first > 0xED || text.starts_with("제");
+    const bool isASCII = static_cast<unsigned char>(text.front()) < 0x80;
+    if (isASCII) return std::string_view("IVXivx0123456789 \t\n\v\f\r").find(text.front()) != npos;
+    return !SummaryBytes::isSyllable(text, 0) || text.starts_with("제");
 }
 
 }  // namespace
 
 std::size_t listItem(std::string_view text) {
-    return behindItem(text, 0);
+    return startsPlainly(text) ? 0 : behindItem(text, 0);
 }
 
 std::size_t line(std::string_view text) {
     constexpr std::size_t deepestHeading = 6;
+    if (startsPlainly(text)) return 0;
     const std::size_t start = skipBlanks(text, 0);
     if (stands(text, start, ">")) return skipBlanks(text, behindRun(text, start, '>'));
     if (!stands(text, start, "#")) return behindItem(text, start);

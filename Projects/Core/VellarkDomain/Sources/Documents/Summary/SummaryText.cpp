@@ -1,3 +1,4 @@
+#include <VellarkDomain/Documents/Summary/SummaryBytes.hpp>
 #include <VellarkDomain/Documents/Summary/SummaryText.hpp>
 #include <VellarkFoundation/Text/UTF8.hpp>
 #include <VellarkFoundation/Unicode/CharacterClass.hpp>
@@ -45,6 +46,7 @@ constexpr auto mayBeginWhitespace = [] {
 // The end of the white space character at the offset; the offset itself when there is none.
 std::size_t whitespaceEnd(std::string_view text, std::size_t offset) {
     if (!mayBeginWhitespace[static_cast<unsigned char>(text[offset])]) return offset;
+    if (text.substr(offset, 2) == "\r\n") return offset + 2;
     const bool isAlone = offset + 1 < text.size() && static_cast<unsigned char>(text[offset + 1]) < 0x80;
     if (text[offset] == ' ' && isAlone && offset > 0 && static_cast<unsigned char>(text[offset - 1]) < 0x80) {
         return offset + 1;
@@ -102,6 +104,10 @@ std::string joinedWords(std::string_view text, std::string_view separator) {
 
 bool isBoundary(std::string_view text, std::size_t offset) {
     if (offset == 0 || offset >= text.size()) return true;
+    constexpr std::size_t syllableSize = 3;
+    const bool isBeforeASCII = static_cast<unsigned char>(text[offset]) < 0x80;
+    const bool isBehindWide = offset >= syllableSize && static_cast<unsigned char>(text[offset - 1]) >= 0x80;
+    if (isBehindWide && isBeforeASCII && SummaryBytes::isSyllable(text, offset - syllableSize)) return true;
     const char32_t before = UTF8::decode(text, UTF8::previousOffset(text, offset)).scalar;
     const char32_t after = UTF8::decode(text, offset).scalar;
     if (before < 0x80 && after < 0x80) return !(before == '\r' && after == '\n');
