@@ -77,6 +77,7 @@ struct RegexMatcher::State {
     const RegexText* text;
     std::unique_ptr<Engine> engine;
     icu::RegexMatcher* matcher;  // of the engine
+    bool hasFailed = false;
 
     State(std::shared_ptr<const Regex::Compiled> expression, const RegexText& subject)
         : compiled(std::move(expression)),
@@ -87,14 +88,19 @@ struct RegexMatcher::State {
     State(const State&) = delete;
     State& operator=(const State&) = delete;
 
-    // A long text may have left a large stack for backtracking, which is better given back.
+    // A long text may have left a large stack for backtracking, which is better given back; and so is an engine that
+    // met a limit.
     ~State() {
         constexpr std::size_t longestKept = 16'384;
-        if (static_cast<std::size_t>(engine->units.length()) <= longestKept) compiled->spares.keep(std::move(engine));
+        const bool isLong = static_cast<std::size_t>(engine->units.length()) > longestKept;
+        if (!isLong && !hasFailed) compiled->spares.keep(std::move(engine));
     }
 
-    [[nodiscard]] RegexOutcome outcome(bool matched, UErrorCode status) const {
-        if (U_FAILURE(status)) return RegexOutcome::failed;
+    [[nodiscard]] RegexOutcome outcome(bool matched, UErrorCode status) {
+        if (U_FAILURE(status)) {
+            hasFailed = true;
+            return RegexOutcome::failed;
+        }
         return matched ? RegexOutcome::match : RegexOutcome::noMatch;
     }
 };
