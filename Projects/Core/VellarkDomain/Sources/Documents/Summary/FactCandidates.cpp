@@ -41,7 +41,7 @@ constexpr auto openings = [] {
         table[static_cast<unsigned char>(letter)] = Opening::code;
     table['$'] = Opening::dollar;
     // Lead bytes of all currency signs and of all decimal digits beyond ASCII.
-    for (const std::size_t lead : {0xC2, 0xD9, 0xDB, 0xDF, 0xE0, 0xE1, 0xE2, 0xEA, 0xEF, 0xF0})
+    for (const std::size_t lead : {0xC2U, 0xD9U, 0xDBU, 0xDFU, 0xE0U, 0xE1U, 0xE2U, 0xEAU, 0xEFU, 0xF0U})
         table[lead] = Opening::otherScript;
     return table;
 }();

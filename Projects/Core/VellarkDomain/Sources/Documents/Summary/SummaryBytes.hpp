@@ -39,7 +39,7 @@ inline constexpr auto table = [] {
         traits[byte] = digit;
     for (std::size_t byte = 0x80; byte < traits.size(); ++byte)
         traits[byte] = nonASCII;
-    for (const std::size_t lead : {0xD9, 0xDB, 0xDF, 0xE0, 0xE1, 0xEA, 0xEF, 0xF0})
+    for (const std::size_t lead : {0xD9U, 0xDBU, 0xDFU, 0xE0U, 0xE1U, 0xEAU, 0xEFU, 0xF0U})
         traits[lead] |= digit;
     return traits;
 }();

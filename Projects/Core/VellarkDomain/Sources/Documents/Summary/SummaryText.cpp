@@ -38,7 +38,7 @@ std::optional<bool> isCut(Break before, Break after) {
 // Bytes that may begin white space.
 constexpr auto mayBeginWhitespace = [] {
     std::array<bool, 256> table{};
-    for (const unsigned char byte : {'\t', '\n', '\v', '\f', '\r', ' ', '\xC2', '\xE1', '\xE2', '\xE3'})
+    for (const unsigned byte : {0x09U, 0x0AU, 0x0BU, 0x0CU, 0x0DU, 0x20U, 0xC2U, 0xE1U, 0xE2U, 0xE3U})
         table[byte] = true;
     return table;
 }();
