@@ -6,25 +6,101 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <mutex>
+#include <utility>
 
 // ICU matches UTF-16. The texts here are UTF-8, so a table gives the byte offset of each unit; ASCII, where the two are
 // the same, goes without.
 
 namespace vellark {
 
+namespace {
+
+// ICU's matcher and the alias of a text's units that it reads, which must keep its address.
+struct Engine {
+    icu::UnicodeString units;
+    std::unique_ptr<icu::RegexMatcher> matcher;
+};
+
+// Engines that wait for their next text, as making one costs more than most matches. Each is used by one matcher at a
+// time.
+class SpareEngines {
+public:
+    [[nodiscard]] std::unique_ptr<Engine> take() {
+        const std::lock_guard lock(mutex_);
+        if (engines_.empty()) return nullptr;
+        auto engine = std::move(engines_.back());
+        engines_.pop_back();
+        return engine;
+    }
+
+    void keep(std::unique_ptr<Engine> engine) {
+        constexpr std::size_t maximumCount = 8;
+        const std::lock_guard lock(mutex_);
+        if (engines_.size() < maximumCount) engines_.push_back(std::move(engine));
+    }
+
+private:
+    std::mutex mutex_;
+    std::vector<std::unique_ptr<Engine>> engines_;
+};
+
+}  // namespace
+
 struct Regex::Compiled {
     std::unique_ptr<icu::RegexPattern> pattern;
     Options options;
+    mutable SpareEngines spares;
+
+    Compiled(std::unique_ptr<icu::RegexPattern> made, const Options& chosen)
+        : pattern(std::move(made)), options(chosen) {}
+
+    [[nodiscard]] std::unique_ptr<Engine> engineFor(const std::u16string& units) const {
+        auto engine = spares.take();
+        const bool isNew = engine == nullptr;
+        if (isNew) engine = std::make_unique<Engine>();
+        engine->units.setTo(false, units.data(), static_cast<std::int32_t>(units.size()));
+        if (isNew) {
+            UErrorCode status = U_ZERO_ERROR;
+            engine->matcher.reset(pattern->matcher(engine->units, status));
+            engine->matcher->setStackLimit(options.stackLimitBytes, status);
+            engine->matcher->setTimeLimit(options.timeLimitSteps, status);
+        } else {
+            engine->matcher->reset(engine->units);
+        }
+        return engine;
+    }
 };
 
 struct RegexMatcher::State {
     std::shared_ptr<const Regex::Compiled> compiled;
     const RegexText* text;
-    std::unique_ptr<icu::UnicodeString> units;  // an alias of the text's units, at an address that stays
-    std::unique_ptr<icu::RegexMatcher> matcher;
+    std::unique_ptr<Engine> engine;
+    icu::RegexMatcher* matcher;  // of the engine
+    bool hasFailed = false;
 
-    [[nodiscard]] RegexOutcome outcome(bool matched, UErrorCode status) const {
-        if (U_FAILURE(status)) return RegexOutcome::failed;
+    State(std::shared_ptr<const Regex::Compiled> expression, const RegexText& subject)
+        : compiled(std::move(expression)),
+          text(&subject),
+          engine(compiled->engineFor(subject.units_)),
+          matcher(engine->matcher.get()) {}
+
+    State(const State&) = delete;
+    State& operator=(const State&) = delete;
+
+    // A long text may have left a large stack for backtracking, which is better given back; and so is an engine that
+    // met a limit.
+    ~State() {
+        constexpr std::size_t longestKept = 16'384;
+        const bool isLong = static_cast<std::size_t>(engine->units.length()) > longestKept;
+        if (!isLong && !hasFailed) compiled->spares.keep(std::move(engine));
+    }
+
+    [[nodiscard]] RegexOutcome outcome(bool matched, UErrorCode status) {
+        if (U_FAILURE(status)) {
+            hasFailed = true;
+            return RegexOutcome::failed;
+        }
         return matched ? RegexOutcome::match : RegexOutcome::noMatch;
     }
 };
@@ -49,7 +125,7 @@ std::optional<Regex> Regex::compile(std::string_view pattern, const Options& opt
     std::unique_ptr<icu::RegexPattern> compiled(icu::RegexPattern::compile(source, flagsOf(options), where, status));
     if (U_FAILURE(status) || !compiled) return std::nullopt;
     Regex regex;
-    regex.compiled_ = std::make_shared<const Compiled>(Compiled{std::move(compiled), options});
+    regex.compiled_ = std::make_shared<const Compiled>(std::move(compiled), options);
     return regex;
 }
 
@@ -98,16 +174,8 @@ std::size_t RegexText::unitOffset(std::size_t byteOffset) const {
     return static_cast<std::size_t>(found - byteOffsets_.begin());
 }
 
-RegexMatcher::RegexMatcher(const Regex& regex, const RegexText& text) : state_(std::make_unique<State>()) {
-    UErrorCode status = U_ZERO_ERROR;
-    state_->compiled = regex.compiled_;
-    state_->text = &text;
-    state_->units =
-        std::make_unique<icu::UnicodeString>(false, text.units_.data(), static_cast<std::int32_t>(text.units_.size()));
-    state_->matcher.reset(regex.compiled_->pattern->matcher(*state_->units, status));
-    state_->matcher->setStackLimit(regex.compiled_->options.stackLimitBytes, status);
-    state_->matcher->setTimeLimit(regex.compiled_->options.timeLimitSteps, status);
-}
+RegexMatcher::RegexMatcher(const Regex& regex, const RegexText& text)
+    : state_(std::make_unique<State>(regex.compiled_, text)) {}
 
 RegexMatcher::RegexMatcher(RegexMatcher&&) noexcept = default;
 RegexMatcher& RegexMatcher::operator=(RegexMatcher&&) noexcept = default;

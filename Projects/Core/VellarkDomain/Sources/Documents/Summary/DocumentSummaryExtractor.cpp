@@ -2,6 +2,7 @@
 #include <VellarkDomain/Documents/Summary/SummaryConclusion.hpp>
 #include <VellarkDomain/Documents/Summary/SummaryFacts.hpp>
 #include <VellarkDomain/Documents/Summary/SummaryHTML.hpp>
+#include <VellarkDomain/Documents/Summary/SummaryMarkdown.hpp>
 #include <VellarkDomain/Documents/Summary/SummaryText.hpp>
 #include <VellarkFoundation/Text/UTF8.hpp>
 #include <VellarkFoundation/Text/Whitespace.hpp>
@@ -61,6 +62,10 @@ std::string statedSummary(const std::map<std::string, std::string>& values) {
     return {};
 }
 
+// Lines of the first paragraph that can reach into its cut: each has one character at least, or the blank before it,
+// and a cut looks a few characters further to keep a number whole.
+constexpr std::size_t readLineCount = summaryLength + 100;
+
 // CR LF is one character and ends no line, so a document of such lines has one line only; facts and conclusion alone
 // are read from its lines as an editor shows them.
 DocumentSummaryExtract markdownDigest(std::string_view text, bool isComplete) {
@@ -76,7 +81,7 @@ DocumentSummaryExtract markdownDigest(std::string_view text, bool isComplete) {
     }
     std::string stated = statedSummary(read.values);
     if (stated.empty()) {
-        Prose opening = prose(read.body);
+        Prose opening = SummaryMarkdown::opening(read.body, readLineCount);
         stated = std::move(opening.text);
         digest.items = std::move(opening.items);
     }
@@ -94,15 +99,20 @@ DocumentSummaryExtract digestOf(std::string_view text, const DocumentContentForm
     return digest;
 }
 
-// Whether there may be more characters than the limit: there are never more than scalars, whose first bytes are counted
-// much faster.
+// Whether there may be more characters than the limit: there are never more than scalars, less the line feeds that
+// belong to a carriage return, and both are counted much faster.
 bool mayExceedLimit(std::string_view text) {
     constexpr std::size_t longestScalar = 4;
     if (text.size() <= readingLimit) return false;
     if (text.size() > readingLimit * longestScalar || !UTF8::isValid(text)) return true;
-    const auto firstBytes = std::count_if(text.begin(), text.end(),
-                                          [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80; });
-    return static_cast<std::size_t>(firstBytes) > readingLimit;
+    std::size_t count = 0;
+    char before = 0;
+    for (const char byte : text) {
+        const bool isFirst = (static_cast<unsigned char>(byte) & 0xC0U) != 0x80 && !(before == '\r' && byte == '\n');
+        count += isFirst ? 1 : 0;
+        before = byte;
+    }
+    return count > readingLimit;
 }
 
 }  // namespace

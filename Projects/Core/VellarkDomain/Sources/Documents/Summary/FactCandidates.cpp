@@ -41,7 +41,7 @@ constexpr auto openings = [] {
         table[static_cast<unsigned char>(letter)] = Opening::code;
     table['$'] = Opening::dollar;
     // Lead bytes of all currency signs and of all decimal digits beyond ASCII.
-    for (const std::size_t lead : {0xC2, 0xD9, 0xDB, 0xDF, 0xE0, 0xE1, 0xE2, 0xEA, 0xEF, 0xF0})
+    for (const std::size_t lead : {0xC2U, 0xD9U, 0xDBU, 0xDFU, 0xE0U, 0xE1U, 0xE2U, 0xEAU, 0xEFU, 0xF0U})
         table[lead] = Opening::otherScript;
     return table;
 }();
@@ -95,7 +95,9 @@ std::size_t nextValue(std::string_view text, std::size_t from, bool takesBareNum
                 break;
             case Opening::digit: {
                 const char before = start == 0 ? ' ' : text[start - 1];
-                const std::size_t end = std::min(text.find_first_not_of("0123456789,.", start), text.size());
+                std::size_t end = start + 1;
+                while (end < text.size() && (isDigit(text[end]) || text[end] == ',' || text[end] == '.'))
+                    ++end;
                 const bool isInside = isAlphanumeric(before) || before == '.' || before == ',';
                 const bool isValue =
                     mayHaveUnit(text, end) || (takesBareNumbers && isLongOrGrouped(text.substr(start, end - start)));

@@ -1,9 +1,10 @@
 #include <VellarkDomain/Documents/Summary/ConclusionWords.hpp>
 #include <VellarkDomain/Documents/Summary/DocumentSummaryExtractor.hpp>
 #include <VellarkDomain/Documents/Summary/FactPattern.hpp>
-#include <VellarkDomain/Documents/Summary/SummaryCandidates.hpp>
+#include <VellarkDomain/Documents/Summary/SummaryBytes.hpp>
 #include <VellarkDomain/Documents/Summary/SummaryConclusion.hpp>
 #include <VellarkDomain/Documents/Summary/SummaryInline.hpp>
+#include <VellarkDomain/Documents/Summary/SummaryMarkers.hpp>
 #include <VellarkDomain/Documents/Summary/SummaryText.hpp>
 #include <VellarkFoundation/Text/UTF8.hpp>
 #include <VellarkFoundation/Text/Whitespace.hpp>
@@ -23,12 +24,29 @@ using DocumentSummaryExtractor::cut;
 using DocumentSummaryExtractor::headingLevel;
 using DocumentSummaryExtractor::isConclusionName;
 using DocumentSummaryExtractor::Lines;
-using GraphemeBreak::startsWith;
+using SummaryText::startsWith;
 
 constexpr std::size_t conclusionLength = 120;
 
+// Whether only ASCII has cases, and nothing can compose: ASCII, Chinese characters and Hangul syllables.
+bool isPlainlyCased(std::string_view text) {
+    for (std::size_t offset = 0; offset < text.size(); ++offset) {
+        const auto byte = static_cast<unsigned char>(text[offset]);
+        const bool isContinuation = byte >= 0x80 && byte < 0xC0;
+        if (byte >= 0x80 && !isContinuation && !SummaryBytes::isSyllable(text, offset)) return false;
+    }
+    return true;
+}
+
 // Texts are looked up in lower case and NFC: decomposed Korean and Vietnamese come with many files.
 std::string lookedUp(std::string_view text) {
+    if (isPlainlyCased(text)) {
+        std::string result(text);
+        for (char& byte : result) {
+            if (byte >= 'A' && byte <= 'Z') byte = static_cast<char>(byte - 'A' + 'a');
+        }
+        return result;
+    }
     return Normalization::nfc(UnicodeCase::lower(text));
 }
 
@@ -44,10 +62,7 @@ bool holdsAny(std::string_view text, const Words& words) {
 }
 
 std::string_view withoutTitleNumber(std::string_view text) {
-    static const SummaryExpression titleNumber(R"(^(?:제?\s*\d+\s*[장절.)]\.?|[IVXivx]+\.|[Ⅰ-Ⅹ]+\.?)\s*)",
-                                               SummaryCandidates::sectionNumber);
-    const auto number = firstMatch(titleNumber, SummarySubject(text));
-    return number ? text.substr(number->end) : text;
+    return text.substr(SummaryMarkers::sectionNumber(text));
 }
 
 bool isTrimmedFromStatement(char32_t scalar) {
@@ -70,6 +85,8 @@ bool endsWith(std::string_view text, std::string_view mark) {
 }
 
 bool holdsLetterOrNumber(std::string_view text) {
+    const char32_t first = UTF8::decode(text, 0).scalar;
+    if (CharacterClass::isLetter(first) || CharacterClass::isNumber(first)) return true;
     const Graphemes characters(text);
     for (std::size_t index = 0; index < characters.count(); ++index) {
         if (CharacterClass::isLetter(characters[index]) || CharacterClass::isNumber(characters[index])) return true;
@@ -81,7 +98,7 @@ bool holdsLetterOrNumber(std::string_view text) {
 bool isStatement(std::string_view text) {
     const std::string lowered = lookedUp(withoutOuterPunctuation(text));
     if (lowered.empty() || isAmong(ConclusionWords::unsettledValues, lowered)) return false;
-    const std::string_view trimmed = Whitespace::trimmed(text);
+    const std::string_view trimmed = SummaryText::trimmed(text);
     if (endsWith(trimmed, "?") || endsWith(trimmed, "？")) return false;
     if (startsWith(trimmed, "{") || startsWith(trimmed, "[")) return false;
     return holdsLetterOrNumber(lowered);
@@ -89,6 +106,7 @@ bool isStatement(std::string_view text) {
 
 bool startsOtherBlock(std::string_view line) {
     constexpr auto marks = std::to_array<std::string_view>({"|", ">", "<", "![", "%%", "#"});
+    if (line.empty() || std::string_view("|><!%#").find(line.front()) == line.npos) return false;
     return std::any_of(marks.begin(), marks.end(), [&](std::string_view mark) { return startsWith(line, mark); });
 }
 
@@ -102,8 +120,10 @@ std::optional<std::string> labelledConclusion(std::string_view line) {
     const std::string plainLabel = DocumentSummaryExtractor::plainLine(label);
     if (!isConclusionName(plainLabel)) return std::nullopt;
 
+    constexpr SummaryBytes::Traits marks =
+        SummaryBytes::tick | SummaryBytes::slash | SummaryBytes::tilde | SummaryBytes::dollar;
     std::string cleaned(line);
-    replaceMatches(FactPattern::shared().notValueText, cleaned, "");
+    if ((SummaryBytes::of(line) & marks) != 0) replaceMatches(FactPattern::shared().notValueText, cleaned, "");
     const std::string text = DocumentSummaryExtractor::plainLine(cleaned);
     if (text.empty() || DocumentSummaryExtractor::isNavigation(line)) return std::nullopt;
     const auto colon = SummaryText::findColon(text);
@@ -140,7 +160,7 @@ bool pointsToList(std::string_view text) {
 
 std::optional<std::string> firstItem(Lines lines) {
     for (const std::string_view line : lines) {
-        if (const auto item = DocumentSummaryExtractor::listItem(Whitespace::trimmed(line))) {
+        if (const auto item = DocumentSummaryExtractor::listItem(SummaryText::trimmed(line))) {
             return DocumentSummaryExtractor::plainInline(*item);
         }
     }
@@ -151,6 +171,7 @@ std::optional<std::string> firstItem(Lines lines) {
 std::optional<std::string> firstSentence(Lines lines) {
     auto [text, items] = DocumentSummaryExtractor::prose(lines);
     if (!items.empty()) text = items.front();
+    if (text.empty()) return std::nullopt;
     if (pointsToList(text)) {
         auto item = firstItem(lines);
         if (!item) return std::nullopt;
@@ -169,6 +190,11 @@ Lines sectionBody(Lines lines, std::size_t first) {
     return lines.subspan(first, end - first);
 }
 
+bool isExcludedSection(std::string_view name) {
+    constexpr std::size_t shortestWord = 6;  // bytes, before and behind lower case
+    return name.size() >= shortestWord && holdsAny(lookedUp(name), ConclusionWords::excludedSections);
+}
+
 std::string sectionName(std::string_view heading) {
     const std::string text = SummaryInline::headingText(heading);
     return std::string(SummaryText::trimmed(withoutTitleNumber(text), U":： "));
@@ -183,7 +209,7 @@ public:
         for (std::size_t index = 0; index < lines_.size(); ++index) {
             const auto level = headingLevel(lines_[index]);
             if (!level) {
-                if (isActive_ && !labelled_) labelled_ = labelledConclusion(Whitespace::trimmed(lines_[index]));
+                if (isActive_ && !labelled_) labelled_ = labelledConclusion(SummaryText::trimmed(lines_[index]));
             } else if (isActive_ || sectionLevel_ >= *level) {
                 if (auto found = enterSection(index, *level)) return found;
             }
@@ -194,7 +220,7 @@ public:
 private:
     std::optional<std::string> enterSection(std::size_t index, int level) {
         const std::string name = sectionName(lines_[index]);
-        const bool isExcluded = holdsAny(lookedUp(name), ConclusionWords::excludedSections);
+        const bool isExcluded = isExcludedSection(name);
         isActive_ = !isExcluded;
         sectionLevel_ = isExcluded ? level : 0;
         if (isConclusionName(name)) return conclusionUnder(name, index);
@@ -214,6 +240,12 @@ private:
     int sectionLevel_ = 0;                 // of that section
 };
 
+// Whether a byte stands in the name that one of the separators must have.
+bool mayHoldSeparator(std::string_view name) {
+    return std::any_of(name.begin(), name.end(),
+                       [](char byte) { return byte == ' ' || byte == '/' || byte == "·"[0]; });
+}
+
 std::string compact(std::string_view text) {
     return Normalization::nfc(SummaryText::withoutWhitespace(UnicodeCase::lower(text)));
 }
@@ -231,12 +263,18 @@ std::optional<std::string> conclusion(Lines lines, bool markdown, bool isComplet
 }
 
 bool isConclusionName(std::string_view text) {
+    constexpr std::size_t shortestName = 4;  // bytes
+    if (text.size() < shortestName) return false;
     const std::string name = lookedUp(withoutTitleNumber(text));
     std::string_view first = name;
-    for (const std::string_view separator : ConclusionWords::nameSeparators)
-        first = first.substr(0, SummaryText::find(first, separator));
+    if (mayHoldSeparator(name)) {
+        for (const std::string_view separator : ConclusionWords::nameSeparators)
+            first = first.substr(0, SummaryText::find(first, separator));
+    }
     std::string plain = SummaryText::withoutWhitespace(first);
-    plain = SummaryText::replacing(SummaryText::replacing(plain, ":", ""), "：", "");
+    for (const std::string_view colon : {":", "："}) {
+        if (plain.find(colon) != plain.npos) plain = SummaryText::replacing(plain, colon, "");
+    }
     return isAmong(ConclusionWords::names, plain);
 }
 

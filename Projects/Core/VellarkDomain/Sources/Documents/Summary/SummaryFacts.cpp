@@ -2,8 +2,10 @@
 #include <VellarkDomain/Documents/Summary/FactCandidates.hpp>
 #include <VellarkDomain/Documents/Summary/FactPattern.hpp>
 #include <VellarkDomain/Documents/Summary/FactValues.hpp>
+#include <VellarkDomain/Documents/Summary/SummaryBytes.hpp>
 #include <VellarkDomain/Documents/Summary/SummaryFacts.hpp>
 #include <VellarkDomain/Documents/Summary/SummaryInline.hpp>
+#include <VellarkDomain/Documents/Summary/SummaryMarkers.hpp>
 #include <VellarkDomain/Documents/Summary/SummaryText.hpp>
 #include <VellarkDomain/Documents/Summary/TotalLabel.hpp>
 #include <VellarkFoundation/Text/UTF8.hpp>
@@ -13,6 +15,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 
 // A document's grand total stands at its end, and only the last two totals are shown; so totals are looked for from the
 // end, and due dates and amounts from the start, each no further than to the ones that count. `mayHold` keeps lines
@@ -23,9 +26,14 @@ namespace vellark {
 namespace {
 
 using FactValues::fitted;
-using GraphemeBreak::startsWith;
+using SummaryBytes::Traits;
+using SummaryText::startsWith;
 
-enum class FactKind { total, amount, deadline };
+enum class FactKind : std::uint8_t { total = 1, amount = 2, deadline = 4 };
+
+constexpr auto allKinds = {FactKind::total, FactKind::amount, FactKind::deadline};
+
+constexpr std::string_view timesSign = "\uE000";  // stands for a star that must outlive the emphasis
 
 const FactPattern& pattern() {
     return FactPattern::shared();
@@ -33,6 +41,7 @@ const FactPattern& pattern() {
 
 std::string_view clipped(std::string_view line) {
     constexpr std::size_t longestLine = 4'000;
+    if (line.size() <= longestLine) return line;
     const std::string_view kept = GraphemeBreak::prefix(line, longestLine);
     if (kept.size() == line.size()) return line;
     std::size_t end = kept.size();
@@ -53,7 +62,7 @@ std::string unmarked(std::string_view text) {
     std::string result;
     result.reserve(text.size());
     for (std::size_t start = 0; start < text.size();) {
-        const std::size_t end = std::min(text.find_first_of("*_", start), text.size());
+        const std::size_t end = SummaryBytes::findAny(text, SummaryBytes::emphasis, start);
         result += text.substr(start, end - start);
         if (end == text.size()) break;
         if (!SummaryText::isBoundary(text, end) || !SummaryText::isBoundary(text, end + 1)) result += text[end];
@@ -63,33 +72,62 @@ std::string unmarked(std::string_view text) {
 }
 
 bool hasEmphasis(std::string_view text) {
-    return text.find_first_of("*_") != text.npos;
+    return SummaryBytes::findAny(text, SummaryBytes::emphasis) < text.size();
 }
 
 // The text without what is no value: code, links, struck text, mathematics.
 std::string valueText(std::string_view text) {
+    constexpr Traits marks = SummaryBytes::tick | SummaryBytes::slash | SummaryBytes::tilde | SummaryBytes::dollar;
     std::string result(text);
-    replaceMatches(pattern().notValueText, result, "");
+    if ((SummaryBytes::of(text) & marks) != 0) replaceMatches(pattern().notValueText, result, "");
     return result;
 }
 
 std::string plainified(std::string_view text) {
-    constexpr std::string_view times = "\uE000";  // stands for a star that must outlive the emphasis
+    const Traits traits = SummaryBytes::of(text);
     std::string result(text);
-    replaceMatches(SummaryInline::struck(), result, "");
-    const bool hasTimes = replaceMatches(pattern().multiplication, result, times);
+    if ((traits & SummaryBytes::tilde) != 0) replaceMatches(SummaryInline::struck(), result, "");
+    const bool hasTimes =
+        (traits & SummaryBytes::star) != 0 && replaceMatches(pattern().multiplication, result, timesSign);
     result = DocumentSummaryExtractor::plainLine(result);
-    if (!hasTimes && result.find(times) == std::string::npos) return result;
-    return SummaryText::replacing(result, times, "*");
+    if (!hasTimes && result.find(timesSign) == std::string::npos) return result;
+    return SummaryText::replacing(result, timesSign, "*");
 }
 
 // Markup whose removal may bring letters or digits together that stood apart.
-bool hasHardMarkup(std::string_view line) {
-    const std::size_t mark = line.find_first_of("[<`");
-    if (mark != line.npos || line.find("~~") != line.npos || line.find("://") != line.npos) return true;
-    const std::size_t dollar = line.find('$');
-    return dollar != line.npos && line.find('$', dollar + 1) != line.npos;
+bool hasHardMarkup(std::string_view line, Traits traits) {
+    if ((traits & (SummaryBytes::squareBracket | SummaryBytes::angleBracket | SummaryBytes::tick)) != 0) return true;
+    if ((traits & SummaryBytes::tilde) != 0 && line.find("~~") != line.npos) return true;
+    if ((traits & SummaryBytes::slash) != 0 && line.find("://") != line.npos) return true;
+    if ((traits & SummaryBytes::dollar) == 0) return false;
+    return line.find('$', line.find('$') + 1) != line.npos;
 }
+
+// A line of the document, and what is known of it.
+struct FactLine {
+    std::string_view text;
+    Traits traits;
+    bool hasHardMarkup;
+    std::uint8_t refusedKinds = 0;  // what a search found that it cannot state
+
+    explicit FactLine(std::string_view line)
+        : text(clipped(line)), traits(SummaryBytes::of(text)), hasHardMarkup(vellark::hasHardMarkup(text, traits)) {
+        // Every sum has a digit, and nothing that is taken away from a line leaves one that was not there.
+        if ((traits & SummaryBytes::digit) == 0) refuse(FactKind::total), refuse(FactKind::amount);
+    }
+
+    void refuse(FactKind kind) { refusedKinds = static_cast<std::uint8_t>(refusedKinds | bit(kind)); }
+    [[nodiscard]] bool refuses(FactKind kind) const { return (refusedKinds & bit(kind)) != 0; }
+
+    /// Whether there is nothing to take away but white space.
+    [[nodiscard]] bool isPlain() const {
+        constexpr Traits marks = SummaryBytes::markup | SummaryBytes::slash | SummaryBytes::dollar;
+        return (traits & marks) == 0 && SummaryMarkers::line(text) == 0 && text.find(timesSign) == text.npos;
+    }
+
+private:
+    static std::uint8_t bit(FactKind kind) { return static_cast<std::uint8_t>(kind); }
+};
 
 bool mayHoldValue(std::string_view text, FactKind kind) {
     switch (kind) {
@@ -105,10 +143,11 @@ bool mayHoldValue(std::string_view text, FactKind kind) {
 
 // False when the line cannot state such a fact. Emphasis that goes brings digits together ("1**2**3"), so a line with
 // any is judged by its words alone.
-bool mayHold(std::string_view line, FactKind kind) {
-    if (hasHardMarkup(line)) return true;
-    if (!hasEmphasis(line)) return mayHoldValue(line, kind);
-    const std::string bare = unmarked(line);
+bool mayHold(const FactLine& line, FactKind kind) {
+    if (line.refuses(kind)) return false;
+    if (line.hasHardMarkup) return true;
+    if ((line.traits & SummaryBytes::emphasis) == 0) return mayHoldValue(line.text, kind);
+    const std::string bare = unmarked(line.text);
     switch (kind) {
         case FactKind::total:
             return FactCandidates::totalWord(bare, 0) != bare.npos;
@@ -121,9 +160,9 @@ bool mayHold(std::string_view line, FactKind kind) {
 }
 
 // As `mayHold`, for a table row: its cells are searched for money with their emphasis.
-bool mayHoldInRow(std::string_view row, FactKind kind) {
-    if (kind != FactKind::amount || hasHardMarkup(row)) return mayHold(row, kind);
-    return mayHoldValue(row, kind);
+bool mayHoldInRow(const FactLine& row, FactKind kind) {
+    if (kind != FactKind::amount || row.hasHardMarkup || row.refuses(kind)) return mayHold(row, kind);
+    return mayHoldValue(row.text, kind);
 }
 
 bool endsInTotalLabel(std::string_view text) {
@@ -134,7 +173,8 @@ bool endsInTotalLabel(std::string_view text) {
 bool mayHoldTotal(std::string_view text) {
     if (FactCandidates::totalWord(text, 0) == text.npos) return false;
     const bool mayStart = FactCandidates::totalWordAtStart(text, 0) == 0;
-    if (mayStart && (text.find_first_of(":=") != text.npos || text.find("：") != text.npos)) return true;
+    if (mayStart && (text.find(':') != text.npos || text.find('=') != text.npos || text.find("：") != text.npos))
+        return true;
     std::size_t value = FactCandidates::value(text, 0);
     while (value != text.npos && !TotalLabel::mayEnd(text.substr(0, value)))
         value = FactCandidates::value(text, value + 1);
@@ -179,6 +219,7 @@ std::optional<std::string_view> valueOf(FactKind kind, const SummarySubject& sub
 
 bool startsOtherBlock(std::string_view line) {
     constexpr auto marks = std::to_array<std::string_view>({"#", "<", "![", "%%", "|"});
+    if (line.empty() || std::string_view("#<!%|").find(line.front()) == line.npos) return false;
     return std::any_of(marks.begin(), marks.end(), [&](std::string_view mark) { return startsWith(line, mark); });
 }
 
@@ -187,15 +228,28 @@ bool statesAnything(std::string_view bare) {
     return matches(pattern().totalValue, subject) || matches(pattern().deadlineLine, subject);
 }
 
-std::optional<std::string> lineFact(std::string_view line, FactKind kind) {
-    if (startsOtherBlock(line) || !mayHold(line, kind)) return std::nullopt;
-    const std::string cleaned = valueText(line);
+std::optional<std::string> lineFact(FactLine& line, FactKind kind) {
+    if (!mayHold(line, kind) || startsOtherBlock(line.text)) return std::nullopt;
+    if (line.isPlain()) {
+        const std::string plain = SummaryText::collapsed(line.text);
+        const SummarySubject subject(plain);
+        const auto value = valueOf(kind, subject);
+        if (!value || !statesAnything(line.text)) return std::nullopt;
+        return fitted(plain, *value);
+    }
+    const std::string cleaned = valueText(line.text);
     const std::string plain = plainified(cleaned);
+    if (line.hasHardMarkup) {
+        for (const FactKind other : allKinds) {
+            if (!mayHoldValue(plain, other)) line.refuse(other);
+        }
+        if (line.refuses(kind)) return std::nullopt;
+    }
     const SummarySubject subject(plain);
     const auto value = valueOf(kind, subject);
-    if (!value || DocumentSummaryExtractor::isNavigation(line)) return std::nullopt;
+    if (!value || DocumentSummaryExtractor::isNavigation(line.text)) return std::nullopt;
     if (!statesAnything(hasEmphasis(cleaned) ? unmarked(cleaned) : cleaned)) return std::nullopt;
-    return fitted(cleaned == line ? plain : plainified(line), *value);
+    return fitted(cleaned == line.text ? plain : plainified(line.text), *value);
 }
 
 // A row of a table, its cells cleaned once.
@@ -231,7 +285,8 @@ private:
             if (auto found = totalBehind(static_cast<std::size_t>(label - plain_.begin()))) return found;
         }
         for (const std::string_view cell : cells_) {
-            if (auto found = lineFact(cell, FactKind::total)) return found;
+            FactLine line(cell);
+            if (auto found = lineFact(line, FactKind::total)) return found;
         }
         return std::nullopt;
     }
@@ -286,51 +341,67 @@ private:
 std::vector<std::string_view> tableCells(std::string_view row) {
     std::vector<std::string_view> cells;
     for (const std::string_view piece : SummaryText::split(row, "|")) {
-        const std::string_view cell = Whitespace::trimmed(piece);
+        const std::string_view cell = SummaryText::trimmed(piece);
         if (!cell.empty()) cells.push_back(cell);
     }
     return cells;
 }
 
-std::optional<std::string> tableFact(std::string_view line, FactKind kind) {
+std::optional<std::string> tableFact(const FactLine& line, FactKind kind) {
     if (!mayHoldInRow(line, kind)) return std::nullopt;
-    std::string row(line);
+    std::string row(line.text);
     if (SummaryText::contains(row, "]]")) replaceMatches(pattern().wikiAlias, row, "$1");
     auto cells = tableCells(row);
     if (cells.empty()) return std::nullopt;
-    if (cells.size() == 1) return lineFact(cells.front(), kind);
-    return Row(std::move(cells)).fact(kind);
+    if (cells.size() > 1) return Row(std::move(cells)).fact(kind);
+    FactLine cell(cells.front());
+    return lineFact(cell, kind);
 }
 
-std::optional<std::string> factOf(std::string_view line, FactKind kind) {
-    const std::string_view text = clipped(Whitespace::trimmed(line));
-    return startsWith(text, "|") ? tableFact(text, kind) : lineFact(text, kind);
-}
-
-std::optional<std::string> firstFact(DocumentSummaryExtractor::Lines prose, FactKind kind) {
-    for (const std::string_view line : prose) {
-        if (auto fact = factOf(line, kind)) return fact;
+// The lines of a document but for its headings, which several searches go through.
+class FactSearch {
+public:
+    explicit FactSearch(DocumentSummaryExtractor::Lines prose) {
+        lines_.reserve(prose.size());
+        for (const std::string_view line : prose) {
+            const std::string_view trimmed = SummaryText::trimmed(line);
+            if (!trimmed.empty() && !startsWith(trimmed, "#")) lines_.emplace_back(trimmed);
+        }
     }
-    return std::nullopt;
-}
 
-std::vector<std::string> lastTotals(DocumentSummaryExtractor::Lines prose, std::size_t maximumCount) {
-    std::vector<std::string> totals;
-    for (auto line = prose.rbegin(); line != prose.rend() && totals.size() < maximumCount; ++line) {
-        if (auto total = factOf(*line, FactKind::total)) totals.insert(totals.begin(), std::move(*total));
+    std::optional<std::string> first(FactKind kind) {
+        for (FactLine& line : lines_) {
+            if (auto fact = factOf(line, kind)) return fact;
+        }
+        return std::nullopt;
     }
-    return totals;
-}
+
+    std::vector<std::string> lastTotals(std::size_t maximumCount) {
+        std::vector<std::string> totals;
+        for (auto line = lines_.rbegin(); line != lines_.rend() && totals.size() < maximumCount; ++line) {
+            if (auto total = factOf(*line, FactKind::total)) totals.insert(totals.begin(), std::move(*total));
+        }
+        return totals;
+    }
+
+private:
+    static std::optional<std::string> factOf(FactLine& line, FactKind kind) {
+        return startsWith(line.text, "|") ? tableFact(line, kind) : lineFact(line, kind);
+    }
+
+    std::vector<FactLine> lines_;
+};
 
 }  // namespace
 
 std::vector<std::string> SummaryFacts::factsOf(DocumentSummaryExtractor::Lines prose) {
     constexpr std::size_t maximumCount = 2;
-    std::vector<std::string> candidates = lastTotals(prose, maximumCount);
+    FactSearch search(prose);
+    std::vector<std::string> candidates = search.lastTotals(maximumCount);
     if (candidates.empty()) {
-        if (auto amount = firstFact(prose, FactKind::amount)) candidates.push_back(std::move(*amount));
+        if (auto amount = search.first(FactKind::amount)) candidates.push_back(std::move(*amount));
     }
-    if (auto deadline = firstFact(prose, FactKind::deadline)) candidates.push_back(std::move(*deadline));
+    if (auto deadline = search.first(FactKind::deadline)) candidates.push_back(std::move(*deadline));
 
     std::vector<std::string> result;
     for (std::string& candidate : candidates) {

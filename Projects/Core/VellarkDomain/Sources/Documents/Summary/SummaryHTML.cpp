@@ -49,10 +49,24 @@ constexpr auto tagRoles = std::to_array<TagRole>({
     {"th", cell},          {"title", skipped}, {"tr", block | row},     {"ul", block},
 });
 
+// Where the tags with each first letter begin in the table; they end where those of the next letter begin.
+constexpr auto tagsByLetter = [] {
+    std::array<std::uint8_t, 27> firsts{};
+    for (std::size_t letter = 0; letter < firsts.size(); ++letter) {
+        while (firsts[letter] < tagRoles.size() &&
+               tagRoles[firsts[letter]].name.front() < static_cast<char>('a' + letter))
+            ++firsts[letter];
+    }
+    return firsts;
+}();
+
 int roleOf(std::string_view name) {
-    const auto found = std::lower_bound(tagRoles.begin(), tagRoles.end(), name,
-                                        [](const TagRole& tag, std::string_view text) { return tag.name < text; });
-    return found != tagRoles.end() && found->name == name ? found->role : 0;
+    if (name.empty() || name.front() < 'a' || name.front() > 'z') return 0;
+    const auto letter = static_cast<std::size_t>(name.front() - 'a');
+    for (std::size_t index = tagsByLetter[letter]; index < tagsByLetter[letter + 1]; ++index) {
+        if (tagRoles[index].name == name) return tagRoles[index].role;
+    }
+    return 0;
 }
 
 // The level of "h1" to "h6", 0 for other tags.

@@ -1,6 +1,7 @@
 #include <VellarkDomain/Documents/Summary/DocumentSummaryExtractor.hpp>
 #include <VellarkDomain/Documents/Summary/SummaryCandidates.hpp>
 #include <VellarkDomain/Documents/Summary/SummaryInline.hpp>
+#include <VellarkDomain/Documents/Summary/SummaryMarkdown.hpp>
 #include <VellarkDomain/Documents/Summary/SummaryText.hpp>
 #include <VellarkFoundation/Text/Whitespace.hpp>
 #include <VellarkFoundation/Unicode/Graphemes.hpp>
@@ -8,11 +9,13 @@
 #include <algorithm>
 #include <array>
 
-namespace vellark::DocumentSummaryExtractor {
+namespace vellark {
+
+namespace DocumentSummaryExtractor {
 
 namespace {
 
-using GraphemeBreak::startsWith;
+using SummaryText::startsWith;
 
 bool isFence(std::string_view trimmed) {
     return startsWith(trimmed, "```") || startsWith(trimmed, "~~~");
@@ -21,6 +24,7 @@ bool isFence(std::string_view trimmed) {
 // Blocks that are no paragraph: headings, tables, quotes, HTML, rules, images, comments.
 bool startsOtherBlock(std::string_view trimmed) {
     constexpr auto marks = std::to_array<std::string_view>({"#", "|", ">", "<", "---", "***", "___", "![", "%%"});
+    if (std::string_view("#|><-*_!%").find(trimmed.front()) == std::string_view::npos) return false;
     return std::any_of(marks.begin(), marks.end(), [&](std::string_view mark) { return startsWith(trimmed, mark); });
 }
 
@@ -29,16 +33,38 @@ const SummaryExpression& headingStart() {
     return expression;
 }
 
-Prose paragraphOf(const std::vector<std::string>& entries) {
-    return {SummaryText::joined(entries, " "), {}};
-}
+constexpr std::size_t maximumItemCount = 3;
 
-Prose listOf(std::vector<std::string> items) {
-    constexpr std::size_t maximumItemCount = 3;
-    std::erase_if(items, [](const std::string& item) { return item.empty(); });
-    if (items.size() > maximumItemCount) items.resize(maximumItemCount);
-    return {SummaryText::joined(items, " · "), std::move(items)};
-}
+// The first paragraph or list, gathered line by line.
+class Opening {
+public:
+    /// False when no further line can change what is gathered.
+    bool addItem(std::string_view item) {
+        hasItems_ = true;
+        std::string text = plainInline(item);
+        if (!text.empty()) items_.push_back(std::move(text));
+        return items_.size() < maximumItemCount;
+    }
+
+    void addLine(std::string_view line) {
+        if (lineCount_++ > 0) paragraph_ += ' ';
+        paragraph_ += plainInline(line);
+    }
+
+    [[nodiscard]] bool hasItems() const { return hasItems_; }
+    [[nodiscard]] std::size_t lineCount() const { return lineCount_; }
+
+    [[nodiscard]] Prose take() {
+        if (lineCount_ > 0) return {std::move(paragraph_), {}};
+        return {SummaryText::joined(items_, " · "), std::move(items_)};
+    }
+
+private:
+    std::string paragraph_;
+    std::size_t lineCount_ = 0;
+    std::vector<std::string> items_;
+    bool hasItems_ = false;
+};
 
 // The fence that the lines so far have left open.
 class OpenFence {
@@ -76,8 +102,9 @@ bool isIndentedCode(std::string_view line, std::string_view trimmed) {
 
 std::optional<int> headingLevel(std::string_view line) {
     constexpr std::size_t deepest = 6;
+    if (!line.starts_with('#')) return std::nullopt;
     const std::size_t level = std::min(line.find_first_not_of('#'), line.size());
-    if (level == 0 || level > deepest) return std::nullopt;
+    if (level > deepest) return std::nullopt;
     const std::string_view rest = line.substr(level);
     if (!startsWith(rest, " ") && !startsWith(rest, "\t")) return std::nullopt;
     return static_cast<int>(level);
@@ -89,13 +116,13 @@ std::vector<std::string> keyHeadings(Lines lines) {
     std::vector<std::string> others;
     bool isFenced = false;
     for (const std::string_view line : lines) {
-        if (isFence(Whitespace::trimmed(line))) isFenced = !isFenced;
+        if (isFence(SummaryText::trimmed(line))) isFenced = !isFenced;
         const auto level = isFenced ? std::nullopt : headingLevel(line);
         if (!level || *level > 3) continue;
-        std::string text = SummaryInline::headingText(line);
-        if (text.empty()) continue;
         auto& list = *level == 2 ? sections : others;
-        if (list.size() < maximumCount) list.push_back(std::move(text));
+        if (list.size() == maximumCount) continue;
+        std::string text = SummaryInline::headingText(line);
+        if (!text.empty()) list.push_back(std::move(text));
         if (sections.size() == maximumCount) break;
     }
     return sections.empty() ? others : sections;
@@ -115,26 +142,7 @@ std::optional<std::string> nearestHeading(Lines lines, std::ptrdiff_t atOrAbove)
 }
 
 Prose prose(Lines lines) {
-    std::vector<std::string> paragraph;
-    std::vector<std::string> items;
-    bool isFenced = false;
-    for (const std::string_view line : lines) {
-        const std::string_view trimmed = Whitespace::trimmed(line);
-        if (isFence(trimmed)) {
-            isFenced = !isFenced;
-            continue;
-        }
-        if (isFenced || trimmed.empty() || startsOtherBlock(trimmed) || isNavigation(trimmed)) {
-            if (!paragraph.empty()) break;
-        } else if (const auto item = listItem(trimmed)) {
-            if (!paragraph.empty()) break;
-            items.push_back(plainInline(*item));
-        } else {
-            if (!items.empty()) break;
-            paragraph.push_back(plainInline(trimmed));
-        }
-    }
-    return paragraph.empty() ? listOf(std::move(items)) : paragraphOf(paragraph);
+    return SummaryMarkdown::opening(lines, lines.size());
 }
 
 std::vector<std::string_view> proseLines(Lines lines, bool markdown, bool isComplete) {
@@ -144,11 +152,37 @@ std::vector<std::string_view> proseLines(Lines lines, bool markdown, bool isComp
     result.reserve(lines.size());
     OpenFence fence;
     for (const std::string_view line : lines) {
-        const std::string_view trimmed = Whitespace::trimmed(line);
+        const std::string_view trimmed = SummaryText::trimmed(line);
         if (fence.takes(trimmed) || fence.isOpen() || isIndentedCode(line, trimmed)) continue;
         result.push_back(line);
     }
     return result;
 }
 
-}  // namespace vellark::DocumentSummaryExtractor
+}  // namespace DocumentSummaryExtractor
+
+DocumentSummaryExtractor::Prose SummaryMarkdown::opening(DocumentSummaryExtractor::Lines lines,
+                                                         std::size_t maximumLineCount) {
+    using namespace DocumentSummaryExtractor;
+    Opening opening;
+    bool isFenced = false;
+    for (const std::string_view line : lines) {
+        const std::string_view trimmed = SummaryText::trimmed(line);
+        if (isFence(trimmed)) {
+            isFenced = !isFenced;
+            continue;
+        }
+        const bool hasLines = opening.lineCount() > 0;
+        if (isFenced || trimmed.empty() || startsOtherBlock(trimmed) || isNavigation(trimmed)) {
+            if (hasLines) break;
+        } else if (const auto item = listItem(trimmed)) {
+            if (hasLines || !opening.addItem(*item)) break;
+        } else {
+            if (opening.hasItems() || opening.lineCount() == maximumLineCount) break;
+            opening.addLine(trimmed);
+        }
+    }
+    return opening.take();
+}
+
+}  // namespace vellark

@@ -1,3 +1,4 @@
+#include <VellarkDomain/Documents/Summary/SummaryBytes.hpp>
 #include <VellarkDomain/Documents/Summary/SummaryText.hpp>
 #include <VellarkFoundation/Text/UTF8.hpp>
 #include <VellarkFoundation/Unicode/CharacterClass.hpp>
@@ -37,7 +38,7 @@ std::optional<bool> isCut(Break before, Break after) {
 // Bytes that may begin white space.
 constexpr auto mayBeginWhitespace = [] {
     std::array<bool, 256> table{};
-    for (const unsigned char byte : {'\t', '\n', '\v', '\f', '\r', ' ', '\xC2', '\xE1', '\xE2', '\xE3'})
+    for (const unsigned byte : {0x09U, 0x0AU, 0x0BU, 0x0CU, 0x0DU, 0x20U, 0xC2U, 0xE1U, 0xE2U, 0xE3U})
         table[byte] = true;
     return table;
 }();
@@ -45,6 +46,7 @@ constexpr auto mayBeginWhitespace = [] {
 // The end of the white space character at the offset; the offset itself when there is none.
 std::size_t whitespaceEnd(std::string_view text, std::size_t offset) {
     if (!mayBeginWhitespace[static_cast<unsigned char>(text[offset])]) return offset;
+    if (text.substr(offset, 2) == "\r\n") return offset + 2;
     const bool isAlone = offset + 1 < text.size() && static_cast<unsigned char>(text[offset + 1]) < 0x80;
     if (text[offset] == ' ' && isAlone && offset > 0 && static_cast<unsigned char>(text[offset - 1]) < 0x80) {
         return offset + 1;
@@ -53,6 +55,30 @@ std::size_t whitespaceEnd(std::string_view text, std::size_t offset) {
     const bool followsASCII = offset == 0 || static_cast<unsigned char>(text[offset - 1]) < 0x80;
     if (!followsASCII && !isBoundary(text, offset)) return offset;
     return GraphemeBreak::next(text, offset);
+}
+
+// Whether a character that begins with this byte stands apart from a blank on either side: printable ASCII, Chinese
+// characters, and Hangul syllables but for the first of their lead bytes, which marks have too.
+bool standsApart(char byte) {
+    const auto value = static_cast<unsigned char>(byte);
+    return (value > ' ' && value < 0x7F) || (value >= 0xE4 && value <= 0xE9) || (value >= 0xEB && value <= 0xED);
+}
+
+// Whether the words are plainly joined with single blanks already, as those of most lines are.
+bool isCollapsed(std::string_view text) {
+    bool isApart = false;  // the last character
+    for (std::size_t offset = 0; offset < text.size(); ++offset) {
+        const char byte = text[offset];
+        if (byte == ' ') {
+            if (!isApart || offset + 1 == text.size() || !standsApart(text[offset + 1])) return false;
+            isApart = false;
+        } else if (mayBeginWhitespace[static_cast<unsigned char>(byte)]) {
+            return false;
+        } else if ((static_cast<unsigned char>(byte) & 0xC0U) != 0x80) {
+            isApart = standsApart(byte);
+        }
+    }
+    return true;
 }
 
 std::string joinedWords(std::string_view text, std::string_view separator) {
@@ -78,6 +104,10 @@ std::string joinedWords(std::string_view text, std::string_view separator) {
 
 bool isBoundary(std::string_view text, std::size_t offset) {
     if (offset == 0 || offset >= text.size()) return true;
+    constexpr std::size_t syllableSize = 3;
+    const bool isBeforeASCII = static_cast<unsigned char>(text[offset]) < 0x80;
+    const bool isBehindWide = offset >= syllableSize && static_cast<unsigned char>(text[offset - 1]) >= 0x80;
+    if (isBehindWide && isBeforeASCII && SummaryBytes::isSyllable(text, offset - syllableSize)) return true;
     const char32_t before = UTF8::decode(text, UTF8::previousOffset(text, offset)).scalar;
     const char32_t after = UTF8::decode(text, offset).scalar;
     if (before < 0x80 && after < 0x80) return !(before == '\r' && after == '\n');
@@ -111,11 +141,12 @@ Colon findColon(std::string_view text) {
 }
 
 std::string collapsed(std::string_view text) {
-    return joinedWords(text, " ");
+    return isCollapsed(text) ? std::string(text) : joinedWords(text, " ");
 }
 
 std::string withoutWhitespace(std::string_view text) {
-    return joinedWords(text, "");
+    const auto mayBegin = [](char byte) { return mayBeginWhitespace[static_cast<unsigned char>(byte)]; };
+    return std::none_of(text.begin(), text.end(), mayBegin) ? std::string(text) : joinedWords(text, "");
 }
 
 std::vector<std::string_view> split(std::string_view text, std::string_view separator) {

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <VellarkFoundation/Text/Whitespace.hpp>
+#include <VellarkFoundation/Unicode/Graphemes.hpp>
+
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -21,6 +24,27 @@ namespace vellark::SummaryText {
 
 [[nodiscard]] inline bool contains(std::string_view text, std::string_view needle) {
     return find(text, needle) != std::string_view::npos;
+}
+
+/// As GraphemeBreak::startsWith, most answers from the first byte alone. The prefix must not be empty.
+[[nodiscard]] inline bool startsWith(std::string_view text, std::string_view prefix) {
+    return !text.empty() && text.front() == prefix.front() && GraphemeBreak::startsWith(text, prefix);
+}
+
+/// Whether a scalar with this first byte is printable ASCII, a Chinese character, a Hangul syllable or another scalar
+/// that is no white space.
+[[nodiscard]] inline bool isPlainLead(char byte) {
+    const auto lead = static_cast<unsigned char>(byte);
+    return lead < 0x80 ? lead > ' ' && lead < 0x7F : lead != 0xC2 && (lead < 0xE1 || lead > 0xE3);
+}
+
+/// As Whitespace::trimmed, most answers from the outer bytes alone.
+[[nodiscard]] inline std::string_view trimmed(std::string_view text) {
+    if (text.empty() || !isPlainLead(text.front())) return Whitespace::trimmed(text);
+    std::size_t last = text.size() - 1;
+    while (last > 0 && (static_cast<unsigned char>(text[last]) & 0xC0U) == 0x80)
+        --last;
+    return isPlainLead(text[last]) ? text : Whitespace::trimmed(text);
 }
 
 /// The first ":" or full-width "：", and its bytes. `offset` is `npos` without one.

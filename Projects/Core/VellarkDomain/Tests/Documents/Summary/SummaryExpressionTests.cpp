@@ -3,8 +3,12 @@
 #include <VellarkDomain/Documents/Summary/FactPattern.hpp>
 #include <VellarkDomain/Documents/Summary/FactValues.hpp>
 #include <VellarkDomain/Documents/Summary/SummaryInline.hpp>
+#include <VellarkDomain/Documents/Summary/SummaryMarkers.hpp>
 #include <VellarkDomain/Documents/Summary/SummaryText.hpp>
 #include <VellarkDomain/Documents/Summary/TotalLabel.hpp>
+#include <VellarkFoundation/Text/Whitespace.hpp>
+#include <VellarkFoundation/Unicode/CharacterClass.hpp>
+#include <VellarkFoundation/Unicode/Graphemes.hpp>
 
 #include <gtest/gtest.h>
 
@@ -44,9 +48,9 @@ std::string shown(const Ranges& ranges) {
     return result;
 }
 
-const std::vector<std::string> markup = {"[",  "]",  "(",  ")",  "![", "[[", "]]", "](", "|",        "<",  ">",
-                                         "</", "a",  "B",  "1",  " ",  "`",  "*",  "**", "~",        "~~", "_",
-                                         "$",  "$1", "US", "가", "é",  "\n", "-",  "·",  "https://", "#",  "2."};
+const std::vector<std::string> markup = {
+    "[", "]",  "(", ")",  "![", "[[", "]]", "](", "|",  "<",  ">",  "</", "a",  "B", "1", " ",        "`", "*", "**",
+    "~", "~~", "_", "漢", "Ж",  "½",  "١",  "$",  "$1", "US", "가", "é",  "\n", "-", "·", "https://", "#", "2."};
 
 const std::vector<std::string> values = {
     "1",       "23",        "456",  "7890", ",",    ".",      " ",      " ", "\u00A0", "\u202F", "$",  "US",
@@ -217,6 +221,49 @@ TEST(SummaryInline, findsMarkersAsTheEngineWould) {
         ASSERT_EQ(found.has_value(), !items.empty()) << text;
         if (found) {
             ASSERT_EQ(*found, text.substr(items.front().end)) << text;
+        }
+    }
+}
+
+TEST(SummaryMarkers, findsSectionNumbersAsTheEngineWould) {
+    const Regex number(R"(^(?:제?\s*\d+\s*[장절.)]\.?|[IVXivx]+\.|[Ⅰ-Ⅹ]+\.?)\s*)");
+    const std::vector<std::string> pieces = {"제", "1", "23", "٣", "장", "절", ".",  ")",  " ", "\u3000",
+                                             "I",  "v", "X",  "Ⅳ", "Ⅺ",  "a",  "가", "章", "-"};
+    int matchCount = 0;
+    for (const std::string& text : randomTexts(14, 20'000, 6, pieces)) {
+        const Ranges expected = plainRanges(number, text);
+        matchCount += expected.empty() ? 0 : 1;
+        ASSERT_EQ(SummaryMarkers::sectionNumber(text), expected.empty() ? 0 : expected.front().end) << text;
+    }
+    EXPECT_GT(matchCount, 1'000);
+}
+
+TEST(SummaryText, collapsesCharacterByCharacter) {
+    const std::vector<std::string> pieces = {" ",      "  ",     "a",      "Z",      "가",     "하",     "漢", "é",
+                                             "\u0301", "\u0600", "\u200D", "\u00A0", "\u3000", "\u200B", "\r", "\n",
+                                             "\r\n",   "\t",     "👩",      "\uA66F", "\u11A8", "ก",      "."};
+    for (const std::string& text : randomTexts(15, 20'000, 9, pieces)) {
+        std::string collapsed;
+        std::string compact;
+        bool isApart = false;
+        const Graphemes characters(text);
+        for (std::size_t index = 0; index < characters.count(); ++index) {
+            if (CharacterClass::isWhitespace(characters[index])) {
+                isApart = true;
+                continue;
+            }
+            if (isApart && !collapsed.empty()) collapsed += ' ';
+            isApart = false;
+            collapsed += characters[index];
+            compact += characters[index];
+        }
+        ASSERT_EQ(SummaryText::collapsed(text), collapsed) << text;
+        ASSERT_EQ(SummaryText::withoutWhitespace(text), compact) << text;
+        ASSERT_EQ(SummaryText::trimmed(text), Whitespace::trimmed(text)) << text;
+        for (std::size_t offset = 0; offset < text.size(); ++offset) {
+            if ((static_cast<unsigned char>(text[offset]) & 0xC0U) == 0x80) continue;
+            const bool isBoundary = characters.byteOffset(characters.characterAt(offset)) == offset;
+            ASSERT_EQ(SummaryText::isBoundary(text, offset), isBoundary) << text << " at " << offset;
         }
     }
 }
