@@ -63,14 +63,15 @@ void RecordFile::walk(std::int64_t from, const Visitor& visit) const {
             const auto lineEnd = static_cast<std::size_t>(static_cast<const char*>(found) - buffer.data());
             const Line line{std::string_view(buffer).substr(lineStart, lineEnd - lineStart),
                             start + static_cast<std::int64_t>(lineStart)};
-            if (!skipping && !line.text.empty() && !visit(line)) return;
+            const bool isWhole = !skipping && line.text.size() <= longestLine;
+            if (isWhole && !line.text.empty() && !visit(line)) return;
             skipping = false;
             lineStart = searched = lineEnd + 1;
         }
         if (count == 0) {
             const Line rest{std::string_view(buffer).substr(lineStart, filled - lineStart),
                             start + static_cast<std::int64_t>(lineStart)};
-            if (!skipping && !rest.text.empty()) visit(rest);
+            if (!skipping && rest.text.size() <= longestLine && !rest.text.empty()) visit(rest);
             return;
         }
         filled -= lineStart;

@@ -70,6 +70,15 @@ Summaries readAll(const std::vector<Record>& records, SessionCache& cache) {
     return summaries;
 }
 
+void addDelegation(const SessionDelegation& delegation, ConversationSession& session) {
+    session.delegationID = delegation.callID;
+    session.name = delegation.name;
+    session.role = delegation.role;
+    if (!delegation.task.empty()) session.task = delegation.task;
+    session.finished = session.finished || delegation.isBack;
+    session.failed = session.failed || delegation.failed;
+}
+
 // Tells each subagent's session what its caller's record knows of it.
 void connect(const std::vector<SessionSummary>& summaries, std::vector<ConversationSession>& sessions) {
     std::unordered_map<std::string_view, const SessionDelegation*> calls;  // by the subagent's thread
@@ -85,15 +94,15 @@ void connect(const std::vector<SessionSummary>& summaries, std::vector<Conversat
         if (const auto parent = paths.find(*session.parentThreadID); parent != paths.end()) {
             session.parentPath = std::string(parent->second);
         }
+        if (session.continuation) continue;
         const auto call = calls.find(session.threadID);
-        if (call == calls.end() || session.continuation) continue;
-        const SessionDelegation& delegation = *call->second;
-        session.delegationID = delegation.callID;
-        session.name = delegation.name;
-        session.role = delegation.role;
-        if (!delegation.task.empty()) session.task = delegation.task;
-        session.finished = session.finished || delegation.isBack;
-        session.failed = session.failed || delegation.failed;
+        if (call != calls.end()) addDelegation(*call->second, session);
+        // In a subagent's record the one who answers is the subagent, and the one who asks its caller.
+        if (session.previewAuthor) {
+            const bool isAnswer = session.previewAuthor->role == ConversationAuthor::Role::main;
+            session.previewAuthor =
+                isAnswer ? ConversationAuthor::subagent(session.name.value_or("")) : ConversationAuthor::main();
+        }
     }
 }
 
