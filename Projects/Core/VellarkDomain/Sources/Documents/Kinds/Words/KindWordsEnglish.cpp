@@ -37,7 +37,7 @@ constexpr auto rows = std::to_array<Base>({
      .weak = "ticket, stories",
      .markers = "as a user, so that i can, i want to, story point, acceptance criteria"},
     {.kind = meetingNotes,
-     .names = "meeting note, meeting minute, minutes, agenda, meeting memo, meeting outcome, "
+     .names = "meeting note, meeting minute, minutes, agenda, meetings, meeting outcome, "
               "call transcript, discussion note",
      .cues = "meeting, standup, kickoff, call, one on one, sync, stand up",
      .weak = "discussion",
@@ -169,7 +169,7 @@ constexpr auto rows = std::to_array<Base>({
      .weak = "pitch, leads",
      .markers = ""},
     {.kind = pressRelease,
-     .names = "press release, media release, news release, press kit, press statement, media advisory",
+     .names = "press release, media release, news release, press kit, for immediate release, media advisory",
      .cues = "press",
      .weak = "",
      .markers = "for immediate release, immediate release, media contact, announced"},
@@ -318,7 +318,7 @@ constexpr auto rows = std::to_array<Base>({
      .weak = "",
      .markers = ""},
     {.kind = resume,
-     .names = "curriculum vitae, résumé, cover letter, portfolio, job application, bio, motivation letter, "
+     .names = "curriculum vitae, résumé, cover letter, portfolio, job application, resumes, motivation letter, "
               "recommendation letter, reference letter, resume cv, candidate profile",
      .cues = "engineer, developer, designer, manager, career, professional, my",
      .weak = "resume, cv",
