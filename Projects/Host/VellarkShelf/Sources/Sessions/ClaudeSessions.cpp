@@ -7,7 +7,6 @@
 // never parsed.
 
 #include <VellarkDomain/Conversations/Text/ConversationText.hpp>
-#include <VellarkFoundation/JSON/JSONReader.hpp>
 #include <VellarkShelf/Sessions/JSONAccess.hpp>
 #include <VellarkShelf/Sessions/SessionReaders.hpp>
 #include <VellarkShelf/Sessions/ToolActivity.hpp>
@@ -22,7 +21,7 @@ namespace {
 
 using namespace std::string_view_literals;
 
-constexpr std::size_t lastLines = 12;  // in which a record's latest words are looked for
+constexpr std::size_t lastLines = 12;  // how things stand is told in one of these
 
 constexpr std::array tellingWords = {"\"agentId\""sv, "\"name\":\"Task\""sv, "\"name\":\"Agent\""sv};
 
@@ -44,7 +43,7 @@ public:
     [[nodiscard]] bool hasInstruction() const { return hasInstruction_; }
 
     void read(const RecordFile::Line& line) {
-        const auto json = JSONReader::read(line.text);
+        const auto json = readRecordLine(line.text);
         const JSONObject* object = json ? json->object() : nullptr;
         if (object == nullptr) return;
         time_ = momentIn(*object, "timestamp");
@@ -58,7 +57,7 @@ public:
         // Older records hold their subagents' turns inside; the caller's own lines tell of their work.
         if (isTrueIn(*object, "isSidechain") && textIn(*object, "agentId").empty()) return;
         if (type == "user") readUser(*object, *message);
-        if (type == "assistant") readAssistant(*message);
+        if (type == "assistant") readAssistant(*object, *message);
     }
 
 private:
@@ -104,6 +103,7 @@ private:
         if (const JSONObject* details = objectIn(line, "toolUseResult")) {
             const std::string_view agent = textIn(*details, "agentId");
             if (!agent.empty()) result.thread = std::string(textIn(line, "sessionId")) + "/" + std::string(agent);
+            result.isStart = textIn(*details, "status") == "async_launched";
         }
         send(std::move(result));
     }
@@ -120,7 +120,7 @@ private:
         return joined;
     }
 
-    void readAssistant(const JSONObject& message) {
+    void readAssistant(const JSONObject& line, const JSONObject& message) {
         const JSONArray* blocks = arrayIn(message, "content");
         for (std::size_t place = 0; blocks != nullptr && place < blocks->size(); ++place) {
             const JSONObject* block = blocks->at(place).object();
@@ -129,7 +129,10 @@ private:
             if (type == "text") send(SessionEvent::AgentText{std::string(textIn(*block, "text"))});
             if (type == "tool_use") readCall(*block);
         }
-        if (textIn(message, "stop_reason") == "end_turn") {
+        if (isTrueIn(line, "isApiErrorMessage"))
+            return send(SessionEvent::Outcome{SessionEvent::Outcome::State::failed});
+        const std::string_view reason = textIn(message, "stop_reason");
+        if (!reason.empty() && reason != "tool_use") {
             send(SessionEvent::Outcome{SessionEvent::Outcome::State::finished});
         }
     }
@@ -166,10 +169,15 @@ void readSummary(const RecordFile& file, const SessionReading& reading, LineRead
         std::int64_t offset;
     };
     std::deque<Kept> latest;  // lines that were not parsed yet
+    Kept words;               // the latest line with words, however many calls of tools stand behind it
     file.walk(reading.from, [&](const RecordFile::Line& line) {
         if (!reader.hasInstruction() || tellsOfSubagents(line.text)) {
             reader.read(line);
             return true;
+        }
+        if (contains(line.text, "\"type\":\"text\"")) {
+            words.text.assign(line.text);
+            words.offset = line.offset;
         }
         if (latest.size() < lastLines) {
             latest.push_back({std::string(line.text), line.offset});
@@ -183,6 +191,8 @@ void readSummary(const RecordFile& file, const SessionReading& reading, LineRead
         }
         return true;
     });
+    const bool isAmongLatest = !latest.empty() && words.offset >= latest.front().offset;
+    if (!words.text.empty() && !isAmongLatest) reader.read({words.text, words.offset});
     for (const Kept& line : latest) {
         reader.read({line.text, line.offset});
     }

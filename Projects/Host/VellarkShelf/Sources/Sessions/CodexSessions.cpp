@@ -17,7 +17,7 @@ public:
     explicit LineReader(const SessionEventSink& sink) : sink_(sink) {}
 
     void read(const RecordFile::Line& line) {
-        const auto json = JSONReader::read(line.text);
+        const auto json = readRecordLine(line.text);
         const JSONObject* object = json ? json->object() : nullptr;
         const JSONObject* payload = object != nullptr ? objectIn(*object, "payload") : nullptr;
         if (payload == nullptr) return;
@@ -118,7 +118,8 @@ private:
         const JSONObject* object = output ? output->object() : nullptr;
         const std::string thread = object != nullptr ? firstTextIn(*object, "agent_id", "thread_id") : "";
         if (thread.empty()) return;
-        send(SessionEvent::DelegationResult{.callID = firstTextIn(item, "call_id"), .thread = thread, .text = {}});
+        send(SessionEvent::DelegationResult{
+            .callID = firstTextIn(item, "call_id"), .thread = thread, .text = {}, .isStart = true});
     }
 
     const SessionEventSink& sink_;

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <VellarkDomain/Capture/Rules/CaptureEventTimes.hpp>
+#include <VellarkFoundation/JSON/JSONDocument.hpp>
 #include <VellarkFoundation/JSON/JSONValue.hpp>
+#include <VellarkFoundation/Result.hpp>
 #include <VellarkFoundation/Time/Date.hpp>
 
 #include <optional>
@@ -31,6 +33,10 @@ template <class... Keys>
     const JSONValue* value = object.find(key);
     return value != nullptr && value->boolean() != nullptr && *value->boolean();
 }
+
+/// The value of a line of a record. Programs in JavaScript cut texts inside a surrogate pair and write the half of it
+/// as an escape, which is no JSON: it counts as U+FFFD, so that the rest of the line is not lost.
+[[nodiscard]] Result<JSONValue, JSONError> readRecordLine(std::string_view text);
 
 /// The moment of an ISO 8601 text under a key.
 [[nodiscard]] inline std::optional<Date> momentIn(const JSONObject& object, std::string_view key) {

@@ -14,7 +14,7 @@ namespace {
 
 constexpr std::size_t pieceSize = 256 * 1024;
 
-std::vector<std::int64_t> fingerprintOf(const struct stat& status) {
+std::vector<std::int64_t> fingerprintFrom(const struct stat& status) {
 #ifdef __APPLE__
     const timespec& modified = status.st_mtimespec;
 #else
@@ -31,7 +31,13 @@ std::optional<RecordFile> RecordFile::open(const std::string& path) {
     FileDescriptor file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOFOLLOW | O_NOCTTY | O_CLOEXEC));
     struct stat status {};
     if (!file.isOpen() || ::fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode)) return std::nullopt;
-    return RecordFile(std::move(file), fingerprintOf(status));
+    return RecordFile(std::move(file), fingerprintFrom(status));
+}
+
+std::optional<std::vector<std::int64_t>> RecordFile::fingerprintOf(const std::string& path) {
+    struct stat status {};
+    if (::lstat(path.c_str(), &status) != 0 || !S_ISREG(status.st_mode)) return std::nullopt;
+    return fingerprintFrom(status);
 }
 
 std::size_t RecordFile::read(std::int64_t offset, char* buffer, std::size_t room) const {

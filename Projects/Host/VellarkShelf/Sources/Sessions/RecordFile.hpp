@@ -32,6 +32,9 @@ public:
     /// the path's end is not followed: agents write files, so a link would lead to something else.
     [[nodiscard]] static std::optional<RecordFile> open(const std::string& path);
 
+    /// The fingerprint of the file at the path, which is not opened; nothing where `open` would give nothing.
+    [[nodiscard]] static std::optional<std::vector<std::int64_t>> fingerprintOf(const std::string& path);
+
     /// Size, time of the last change in nanoseconds, inode and device. Equal ones mean an unchanged file.
     [[nodiscard]] const std::vector<std::int64_t>& fingerprint() const { return fingerprint_; }
 

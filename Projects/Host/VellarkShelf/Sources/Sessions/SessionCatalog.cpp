@@ -49,19 +49,20 @@ struct Summaries {
     bool isNews = false;  // the cache does not hold them
 };
 
+// Files are opened one at a time on each core: a process may hold far fewer open than there are records.
 Summaries readAll(const std::vector<Record>& records, SessionCache& cache) {
     std::vector<std::optional<SessionSummary>> read(records.size());
-    std::vector<std::pair<std::size_t, RecordFile>> unknown;
+    std::vector<std::size_t> unknown;
     for (std::size_t place = 0; place < records.size(); ++place) {
-        auto file = RecordFile::open(records[place].path);
-        if (!file) continue;
-        read[place] = cache.take(records[place].path, file->fingerprint());
-        if (!read[place]) unknown.emplace_back(place, *std::move(file));
+        const auto fingerprint = RecordFile::fingerprintOf(records[place].path);
+        if (!fingerprint) continue;
+        read[place] = cache.take(records[place].path, *fingerprint);
+        if (!read[place]) unknown.push_back(place);
     }
     ParallelLoop::run(unknown.size(), [&](std::size_t index) {
-        const auto& [place, file] = unknown[index];
-        const Record& record = records[place];
-        read[place] = SessionSummary::read(*record.agent, record.path, record.configHome, file);
+        const Record& record = records[unknown[index]];
+        const auto file = RecordFile::open(record.path);
+        if (file) read[unknown[index]] = SessionSummary::read(*record.agent, record.path, record.configHome, *file);
     });
     Summaries summaries{.all = {}, .isNews = !unknown.empty() || cache.remaining() > 0};
     for (auto& summary : read) {
@@ -75,6 +76,7 @@ void addDelegation(const SessionDelegation& delegation, ConversationSession& ses
     session.name = delegation.name;
     session.role = delegation.role;
     if (!delegation.task.empty()) session.task = delegation.task;
+    if (session.interrupted) return;
     session.finished = session.finished || delegation.isBack;
     session.failed = session.failed || delegation.failed;
 }

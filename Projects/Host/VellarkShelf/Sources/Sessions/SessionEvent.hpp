@@ -47,6 +47,7 @@ struct SessionEvent {
         std::string thread;  ///< of the subagent, where the record tells
         std::string text;
         bool failed = false;
+        bool isStart = false;  ///< only says that the subagent is at work now
     };
     struct AgentMessage {
         std::string to;

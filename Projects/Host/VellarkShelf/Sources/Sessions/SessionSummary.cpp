@@ -86,6 +86,7 @@ private:
                                        [&result](const auto& one) { return one.callID == result.callID; });
         if (call == delegations_.end()) return;
         if (!result.thread.empty()) call->threadID = std::move(result.thread);
+        if (result.isStart) return;
         call->isBack = true;
         call->failed = result.failed;
     }
@@ -96,7 +97,7 @@ private:
 
     void add(SessionEvent::Outcome& outcome) {
         using State = SessionEvent::Outcome::State;
-        session_.finished = true;
+        session_.finished = outcome.state == State::finished;
         session_.failed = outcome.state == State::failed;
         session_.interrupted = outcome.state == State::interrupted;
     }

@@ -77,7 +77,8 @@ private:
             return;
         }
         hasTask_ = true;
-        push(Entry::Delegation{ownName()}, Author::main(), *instruction).callID = session_.delegationID;
+        // Where the caller's record tells of the call, the prompt stands there.
+        if (!session_.delegationID) push(Entry::Delegation{ownName()}, Author::main(), *instruction);
     }
 
     void add(SessionEvent::AgentText& said) {

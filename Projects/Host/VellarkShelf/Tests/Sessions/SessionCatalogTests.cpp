@@ -145,6 +145,35 @@ TEST_F(SessionCatalogTests, geminiChat) {
     EXPECT_NE(told().find("Edited 1 file"), std::string::npos) << told();
 }
 
+// A text cut inside a surrogate pair costs its half character, and no more.
+TEST_F(SessionCatalogTests, halfCharacters) {
+    write(".claude/projects/-p/s1.jsonl", claudeSay("user", R"("Fix \ud83d it \\ud83d \ud83d\ude00 \ude00")") +
+                                              claudeSay("assistant", R"([{"type":"text","text":"Working on it."}])"));
+    EXPECT_EQ(sessions().front().instruction, "Fix \uFFFD it \\ud83d 😀 \uFFFD");
+}
+
+// However many calls of tools stand behind the agent's last words, these are the preview.
+TEST_F(SessionCatalogTests, theLatestWordsAreThePreview) {
+    std::string text =
+        claudeSay("user", R"("Fix it")") + claudeSay("assistant", R"([{"type":"text","text":"On it."}])");
+    for (int call = 0; call < 40; ++call) {
+        text += claudeSay("assistant", R"([{"type":"tool_use","id":"c","name":"Bash","input":{"command":"ls"}}])");
+    }
+    write(".claude/projects/-p/s1.jsonl", text);
+    const auto all = sessions();
+    EXPECT_EQ(all.front().preview, "On it.");
+    EXPECT_FALSE(all.front().finished);
+}
+
+TEST_F(SessionCatalogTests, moreRecordsThanOpenFiles) {
+    for (int number = 0; number < 1'200; ++number) {
+        std::string text = claudeSay("user", R"("Hello")");
+        text.replace(text.find("s1"), 2, "t" + std::to_string(number));
+        write(".claude/projects/-p/t" + std::to_string(number) + ".jsonl", text);
+    }
+    EXPECT_EQ(sessions().size(), 1'200U);
+}
+
 TEST_F(SessionCatalogTests, unchangedFilesAreNotReadAgain) {
     const std::string path = ".claude/projects/-p/s1.jsonl";
     const std::string text = claudeSay("user", R"("Hello there")");
