@@ -83,13 +83,16 @@ private:
         std::size_t index = 0;
     };
 
-    const DocumentDigest* digestOf(const DocumentRecord& document) {
+    std::optional<DocumentDigest> digestOf(const DocumentRecord& document) {
         const DocumentRevision* latest = document.latestRevision();
-        if (latest == nullptr) return nullptr;
+        if (latest == nullptr) return std::nullopt;
         if (!digests_) digests_ = reading_.get();
-        if (const DocumentDigest* known = digests_->find(latest->id)) return known;
-        digests_->add(madeDigest(document));
-        return digests_->find(latest->id);
+        auto digest = digests_->find(latest->id);
+        if (!digest) {
+            digest = madeDigest(document);
+            digests_->add(*digest);
+        }
+        return digest;
     }
 
     const Commands::ListOptions& options_;

@@ -69,7 +69,7 @@ int Commands::show(const Context& context, const std::string& id) {
     const auto content = readContent(*document, DocumentDigests::readingLimit);
     const DocumentDigest digest = DocumentDigests::make(*document, content);
     ShownDocument shown{
-        .line = ShelfLines(now()).line(*document, &digest), .points = digest.summary.points, .record = *document};
+        .line = ShelfLines(now()).line(*document, digest), .points = digest.summary.points, .record = *document};
     if (content) {
         if (auto extract = DocumentDigests::extract(*document, *content, true)) {
             shown.headings = std::move(extract->headings);

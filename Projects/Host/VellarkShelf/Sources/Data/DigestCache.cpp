@@ -1,7 +1,9 @@
 #include <VellarkFoundation/Files/BoundedFile.hpp>
 #include <VellarkFoundation/Files/FileDescriptor.hpp>
-#include <VellarkFoundation/Records/RecordReader.hpp>
+#include <VellarkFoundation/JSON/JSONCursor.hpp>
+#include <VellarkFoundation/Records/DirectRecordReader.hpp>
 #include <VellarkFoundation/Records/RecordWriter.hpp>
+#include <VellarkFoundation/Text/UTF8.hpp>
 #include <VellarkShelf/Data/DigestCache.hpp>
 
 #include <fcntl.h>
@@ -15,32 +17,52 @@ namespace vellark {
 
 DigestCache DigestCache::read(const DataDirectory& directory) {
     DigestCache cache(directory.digests());
-    const auto text = BoundedFile::read(cache.path_, std::numeric_limits<std::uint32_t>::max());
+    auto text = BoundedFile::read(cache.path_, std::numeric_limits<std::uint32_t>::max());
     if (!text) return cache;
-    std::string_view rest = *text;
-    cache.byRevision_.reserve(static_cast<std::size_t>(std::count(rest.begin(), rest.end(), '\n')));
+    Lines& lines = *cache.lines_;
+    lines.text = *std::move(text);
+    std::string_view rest = lines.text;
+    lines.byRevision.reserve(static_cast<std::size_t>(std::count(rest.begin(), rest.end(), '\n')));
     while (!rest.empty()) {
         const std::size_t end = std::min(rest.find('\n'), rest.size());
-        if (auto digest = readRecord<DocumentDigest>(rest.substr(0, end))) cache.index(*std::move(digest));
+        index(lines, rest.substr(0, end));
         rest.remove_prefix(std::min(end + 1, rest.size()));
     }
     return cache;
 }
 
-const DocumentDigest* DigestCache::find(std::string_view revision) const {
-    const auto found = byRevision_.find(revision);
-    return found == byRevision_.end() ? nullptr : found->second;
+// A line of ours begins with the revision. Of any other one the revision is found by reading all of it.
+void DigestCache::index(Lines& lines, std::string_view line) {
+    if (!UTF8::isValid(line)) return;
+    JSONCursor cursor(line);
+    JSONCursor::StringNode revision;
+    if (cursor.open('{') && cursor.takeKey("revision") && cursor.plainString(revision)) {
+        lines.byRevision.insert_or_assign(*revision.node().string(), line);
+        return;
+    }
+    if (const auto digest = readRecord<DocumentDigest>(line)) {
+        const std::string& key = lines.more.emplace_back(digest->revision);
+        lines.byRevision.insert_or_assign(key, line);
+    }
 }
 
-void DigestCache::index(DocumentDigest digest) {
-    digests_.push_back(std::move(digest));
-    const DocumentDigest& kept = digests_.back();
-    byRevision_.insert_or_assign(kept.revision, &kept);
+std::optional<DocumentDigest> DigestCache::find(std::string_view revision) const {
+    const auto found = lines_->byRevision.find(revision);
+    if (found == lines_->byRevision.end()) return std::nullopt;
+    std::optional<DocumentDigest> digest(std::in_place);
+    JSONCursor cursor(found->second);  // over a line of ours; `index` has seen that it is UTF-8
+    if (readDirectly(cursor, *digest) && cursor.isAtEnd()) return digest;
+    auto read = readRecord<DocumentDigest>(found->second);
+    if (!read) return std::nullopt;
+    digest = *std::move(read);
+    return digest;
 }
 
-void DigestCache::add(DocumentDigest digest) {
-    if (const auto line = writeRecord(digest)) added_ += *line + "\n";
-    index(std::move(digest));
+void DigestCache::add(const DocumentDigest& digest) {
+    const auto line = writeRecord(digest);
+    if (!line) return;
+    added_ += *line + "\n";
+    index(*lines_, lines_->more.emplace_back(*line));
 }
 
 bool DigestCache::save() {

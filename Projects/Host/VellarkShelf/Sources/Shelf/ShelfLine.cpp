@@ -30,8 +30,8 @@ const std::string& remembered(std::map<Key, std::string>& known, const Key& key,
 
 }  // namespace
 
-ShelfLine ShelfLines::line(const DocumentRecord& document, const DocumentDigest* digest) {
-    const auto decision = DocumentDigests::decide(document, digest);
+ShelfLine ShelfLines::line(const DocumentRecord& document, const std::optional<DocumentDigest>& digest) {
+    const auto decision = DocumentDigests::decide(document, digest ? &*digest : nullptr);
     const DocumentRevision* latest = document.latestRevision();
     const std::string source = latest != nullptr ? latest->source.value_or(document.source) : document.source;
     return {.id = document.id,
@@ -40,7 +40,7 @@ ShelfLine ShelfLines::line(const DocumentRecord& document, const DocumentDigest*
                              ? remembered(kinds_, decision->kind, [&] { return DocumentKinds::title(decision->kind); })
                              : document.categoryTitle(),
             .title = document.title,
-            .headline = digest != nullptr ? digest->summary.headline : "",
+            .headline = digest ? digest->summary.headline : "",
             .source = source,
             .sourceTitle = remembered(sources_, source, [&] { return AgentSourceProfile::providerTitle(source); }),
             .project = document.project,

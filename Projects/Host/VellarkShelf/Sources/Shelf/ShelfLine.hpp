@@ -53,7 +53,7 @@ class ShelfLines {
 public:
     explicit ShelfLines(Date now) : now_(now) {}
 
-    [[nodiscard]] ShelfLine line(const DocumentRecord& document, const DocumentDigest* digest);
+    [[nodiscard]] ShelfLine line(const DocumentRecord& document, const std::optional<DocumentDigest>& digest);
 
 private:
     enum class Span { unknown, second, minute, day };

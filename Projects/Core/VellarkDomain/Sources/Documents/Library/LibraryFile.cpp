@@ -1,11 +1,8 @@
 #include <VellarkDomain/Documents/Library/LibraryFile.hpp>
 #include <VellarkFoundation/Files/AtomicFile.hpp>
 #include <VellarkFoundation/Identifiers/UUID.hpp>
-#include <VellarkFoundation/JSON/JSONCursor.hpp>
-#include <VellarkFoundation/Records/DirectRecordReader.hpp>
 #include <VellarkFoundation/Records/RecordReader.hpp>
 #include <VellarkFoundation/Records/RecordWriter.hpp>
-#include <VellarkFoundation/Text/UTF8.hpp>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -133,23 +130,6 @@ Result<Contents, LibraryFileError> LibraryFile::read(const std::string& path) {
     auto library = readRecord<CaptureLibrary>(file->text());
     if (!library) return damaged(library.error());
     return Contents{.library = *std::move(library), .stamp = file->stamp};
-}
-
-bool LibraryFile::visit(const std::string& path, const std::function<void(const DocumentRecord&)>& visitor) {
-    const auto file = readText(path);
-    if (!file || !UTF8::isValid(file->text())) return false;
-    JSONCursor cursor(file->text());
-    std::int64_t version = 0;
-    const bool hasHead = cursor.open('{') && cursor.takeKey("version") && cursor.integer(version) &&
-                         cursor.endMember() && cursor.takeKey("documents") && cursor.open('[');
-    if (!hasHead) return false;
-    DocumentRecord document;  // one for all, so that its memory is used again
-    while (!cursor.isAt(']')) {
-        if (!readDirectly(cursor, document)) return false;
-        visitor(document);
-        if (!cursor.endElement()) return false;
-    }
-    return cursor.close(']') && cursor.endMember() && cursor.close('}') && cursor.isAtEnd();
 }
 
 Result<Stamp, LibraryFileError> LibraryFile::write(const CaptureLibrary& library, const std::string& path,

@@ -49,7 +49,7 @@ struct Contents {
 [[nodiscard]] Result<Contents, LibraryFileError> read(const std::string& path);
 
 /// Calls the function with each document of the file, in its order and one at a time: a library of hundreds of
-/// megabytes is looked through in the memory of its text. False when there is no such file, or it is not as `write`
+/// megabytes is looked through in a megabyte or two. False when there is no such file, or it is not as `write`
 /// leaves one; the documents that were visited then do not count, and `read` tells what is wrong or reads it all the
 /// same.
 [[nodiscard]] bool visit(const std::string& path, const std::function<void(const DocumentRecord&)>& visitor);

@@ -140,5 +140,43 @@ TEST(LibraryFileTests, documentsOneAtATime) {
     EXPECT_FALSE(LibraryFile::visit((directory / "none").string(), visitor));
 }
 
+// The file is read through a window of a megabyte. What it cuts, be it a scalar, a key or a document that is longer, is
+// read as if it did not; and what is wrong at its edge is still wrong.
+TEST(LibraryFileTests, documentsAcrossTheWindow) {
+    const testing::TemporaryDirectory directory;
+    const std::string path = (directory / "library.json").string();
+    constexpr std::size_t window = 1 << 20;
+    CaptureLibrary library;
+    library.documents = {{.id = "first", .title = "FILL", .kind = "markdown"},
+                         {.id = "second", .title = "한글 제목", .kind = "markdown"},
+                         {.id = "last", .title = "T", .kind = "markdown"}};
+    ASSERT_TRUE(LibraryFile::write(library, path));
+    const std::string text = testing::readFile(path);
+    const auto isVisitedWhole = [&](std::string_view part, std::string_view replacement, std::size_t fill) {
+        std::string changed = text;
+        changed.replace(changed.rfind(part), part.size(), replacement);
+        library.documents[0].title = std::string(fill, 'x');
+        changed.replace(changed.find("FILL"), 4, library.documents[0].title);
+        testing::writeFile(path, changed);
+        std::vector<DocumentRecord> visited;
+        const auto visitor = [&visited](const DocumentRecord& document) { visited.push_back(document); };
+        return LibraryFile::visit(path, visitor) && visited == library.documents;
+    };
+    // The edge falls on every byte of the second document in turn, and on the last bytes of the file.
+    const std::size_t second = text.find(R"({"id":"second")") - 4;
+    for (std::size_t shift = 0; shift < 140; ++shift) {
+        const std::size_t fill = window - second - shift;
+        EXPECT_TRUE(isVisitedWhole("제목", "제목", fill)) << shift;
+        EXPECT_FALSE(isVisitedWhole("제목", "제\xEC\xAA", fill)) << shift;
+        EXPECT_FALSE(isVisitedWhole(R"({"id":"last")", R"(,{"id":"last")", fill)) << shift;
+    }
+    const std::size_t rest = text.size() - 4;
+    for (std::size_t shift = 0; shift < 6; ++shift) {
+        EXPECT_TRUE(isVisitedWhole("]}", "]}", window - rest + shift)) << shift;
+        EXPECT_FALSE(isVisitedWhole("]}", ",]}", window - rest + shift)) << shift;
+    }
+    EXPECT_TRUE(isVisitedWhole("]}", "]}", 5 * window));
+}
+
 }  // namespace
 }  // namespace vellark
