@@ -2,6 +2,9 @@
 // generic noun names the kind itself, unless the noun's row holds a refinable kind of the cue's group, which then wins:
 // so a row of generics lists a refinable kind only where it beats every cue of that group. Add an ambiguous word to the
 // row that has its kinds, and take it out of the lists of single kinds.
+//
+// A generic word may also stand behind the noun that names a document ("worksheet, grade 5", "検査表 配布用"): what
+// says when, for whom, how many or in which state stands among the generics of memos for that reason.
 
 #include <VellarkDomain/Documents/Kinds/Words/KindWords.hpp>
 
@@ -19,7 +22,8 @@ constexpr std::array<DocumentKind, sizeof...(kinds)> anyOf{kinds...};
 constexpr auto rows = std::to_array<Shared>({
     {.kinds = anyOf<report, research>,
      .names = "분석, 평가, 비교, 비교표, 인사이트, 검토 보고서, 分析, 評価, 评估, 評估, 比較, 对比, 對比, "
-              "インサイト, analysis, analyses, assessment, evaluation, insight, deep dive, benchmark",
+              "インサイト, analysis, analyses, assessment, evaluation, insight, deep dive, benchmark, 白皮书, "
+              "白皮書, white paper, whitepaper, 백서, 白書",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<report, codeReview, essay>,
@@ -27,50 +31,76 @@ constexpr auto rows = std::to_array<Shared>({
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<prd, plan, design>,
-     .names = "기획, 브리프, brief, 企画, 策划, 策劃, ブリーフ, コンセプト",
+     .names = "기획, 브리프, brief, 企画, 策划, 策劃, ブリーフ, コンセプト, 企划书, 企劃書, 策划案, 策划书, "
+              "企画案, 企划案, 企劃案",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<story, script, userStories>,
-     .names = "스토리, 시나리오, story, stories, ストーリー, シナリオ",
+     .names = "스토리, 시나리오, story, stories, ストーリー, シナリオ, 시놉시스, 줄거리, 세계관, 캐릭터 설정, "
+              "synopsis, worldbuilding, character profile, あらすじ, プロット, 世界観, 剧情, 世界观, 人物小传",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<exercises, quiz, bugReport>,
-     .names = "문제, 문항, 問題, 题目, 題目, 試題, 试题, 设问, 設問",
+     .names = "문제, 문항, 問題, 题目, 題目, 試題, 试题, 设问, 設問, 기출 문제, practice problem, "
+              "practice question, question bank, review question, 練習 問題, 演習 問題, 過去問, 確認 問題, "
+              "練習題, 练习题, 练习卷, 練習卷, 真题, 真題, 课后题, 思考题, 题库, 題庫, 章末問題, 练习, 练习册, "
+              "習題, 練習冊, 練習, 課題, worksheet, problem set, drill, 연습 문제, 문제지, 예제, "
+              "練習 プリント, 习题集, 習題集",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<learning, lectureNotes>,
-     .names = "강의 자료, 강좌, 온라인 강의, 교육 계획서, 학습 계획서, learning path, training plan, 수업 자료, "
-              "강의 슬라이드, 유인물, lecture slide, lecture material, class material, handout, 講義資料, 授業資料, "
-              "課件, 课件, 配布資料, 講義",
+     .names = "강의 자료, 강좌, 온라인 강의, 교육 계획서, 학습 계획서, learning path, training plan, "
+              "수업 자료, 강의 슬라이드, 유인물, lecture slide, lecture material, class material, handout, "
+              "講義資料, 授業資料, 課件, 课件, 配布資料, 講義, 교재, 교육 자료, 강의안, 학습지, "
+              "course material, training material, 研修 資料, 培训材料, 培训资料, 教材, 学案, 學案, 说课稿, "
+              "教学方案, 教學方案, 课程, 課程, 教學計畫, 授業案, 講座, textbook, workbook",
      .generics = "자료, materials, material, resources, resource, 資料, 资料, 素材",
      .cues = "과외, 부트캠프, 워크숍 자료, bootcamp, tutoring, 研修, 培训, 培訓"},
     {.kinds = anyOf<design, designDoc>,
-     .names = "design, 设计, 도면, drawing, 図面, 图纸, 圖紙",
+     .names = "design, 设计, 도면, drawing, 図面, 图纸, 圖紙, 原型, 原型设计, 设计图, 設計圖, 效果图, 版式, "
+              "介面設計, 交互设计, 交互設計, 视觉设计, 視覺設計, ラフ案, 画面 イメージ, prototype, layout, "
+              "sitemap, user flow, journey map, 레이아웃, 프로토타입, 사용자 여정, 유저 플로우, プロトタイプ, "
+              "原型图, 原型圖",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<notice, guide>,
-     .names = "안내, 이용 안내, 案内, ご案内, 说明, 説明, 說明",
+     .names = "안내, 이용 안내, 案内, ご案内, 说明, 説明, 說明, 안내 사항, 案内文, 须知, 須知, 温馨提示, 公示, "
+              "通告, お願い, 通知書, 募集案内, 안내문, advisory, reminder",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<plan, checklist, userStories>,
      .names = "백로그, 다음 단계, 액션 아이템, 시간표, 계획표, 타임라인, 캘린더, backlog, task, next step, "
-              "action item, バックログ, タスク, 任务, 任務, 待办, 待辦",
+              "action item, バックログ, タスク, 任务, 任務, 待办, 待辦, timeline, gantt chart, wbs, "
+              "work breakdown structure, 时间表, 時間表, 进度表, 進度表, 日程表, 排期表, 排期, 排程表, 排程, "
+              "工作安排, 活动安排, ガントチャート, 進行表, 甘特图, 甘特圖, 日程, calendar, 스케줄, 予定表, "
+              "工程表",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<finance, report>,
      .names = "실적, 매출 전망, 예산 현황, 예산 집행 현황, 예산 계획, 지출 현황, 내역서, 연말 정산, 비용 분석, "
               "재무 보고서, 결산 보고서, 회계 보고서, financial report, financial analysis, earnings report, "
-              "cost analysis, expense analysis, revenue report, 実績, 業績, 业绩, 決算報告, 财务报告, 財務報告",
+              "cost analysis, expense analysis, revenue report, 実績, 業績, 业绩, 決算報告, 财务报告, "
+              "財務報告, 재무제표, 손익 계산서, 결산, 결산서, 지출 내역, 정산 내역, financial statement, "
+              "balance sheet, income statement, cash flow, profit and loss, p l, expense report, forecast, "
+              "cost breakdown, 決算書, 収支 報告書, 損益 計算書, 貸借対照表, 财务报表, 財務報表, 资产负债表, "
+              "資產負債表, 利润表, 損益表, 现金流量表, 收支表, 费用明细, 決算, 决算, 结算单, 結算單, 工资表, "
+              "薪資表, 对账单, 對帳單, 精算書, 明細書, 資金繰り表, financial plan, financial model, 재무 계획",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<businessPlan, presentation, sales>,
      .names = "피치 덱, 피치, ir 자료, ir 덱, 투자 유치 자료, pitch deck, pitch, investor deck, "
-              "investor presentation, ir deck, ピッチ資料, ピッチデック, 路演, 路演材料",
+              "investor presentation, ir deck, ピッチ資料, ピッチデック, 路演, 路演材料, 商业画布, 商業畫布, "
+              "リーン キャンバス, business model canvas, lean canvas, investment memo, 투자 제안서, 수익 모델, "
+              "融资计划书, 收益模型, business model, 비즈니스 모델, ビジネス モデル, 商业模式, 商業模式",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<studyNotes, quiz, learning>,
      .names = "공부, 복습, 예습, 시험 요약, 중간고사 요약, 기말고사 요약, 시험 노트, 勉強, 復習, 复习, 複習, "
-              "플래시카드, 암기 카드, flashcard, フラッシュカード, 闪卡",
+              "플래시카드, 암기 카드, flashcard, フラッシュカード, 闪卡, 단어장, 시험 대비, vocabulary list, "
+              "exam review, formula sheet, 単語帳, 暗記カード, 考点, 单词表, 單字表, 词汇表, 复习资料, "
+              "複習資料, 重點整理, 背诵, 知识总结, 自习笔记, 自習 ノート, まとめ ノート, 要点 まとめ, "
+              "暗記 ノート, til, learning log, learning note, 개념 정리, 핵심 정리, 요점 정리, 요약 노트, "
+              "배운 내용, 知识点, 复习提纲, 複習提綱",
      .generics = "",
      .cues = "시험, 중간고사, 기말고사, 중간, 기말, 단원, 수학, 영어, 국어, 과학, 물리, 화학, 생물, 지구과학, "
              "한국사, 세계사, 역사, 사회, 경제학, 심리학, 통계학, 미적분, 선형대수, 문법, 영문법, 단어, 어휘, 한자, "
@@ -87,20 +117,29 @@ constexpr auto rows = std::to_array<Shared>({
              "react, docker, kubernetes, git, linux, sql, aws, machine learning, deep learning, アルゴリズム, "
              "データ構造, ネットワーク, 算法, 数据结构, 数據結構, 操作系统, 机器学习, 深度学习, 機械学習"},
     {.kinds = anyOf<memo, journal>,
-     .names = "",
+     .names = "brainstorm, brainstorming, brain dump, 생각 정리, 便条, 便條, 随手记, 灵感, 头脑风暴, 走り書き, "
+              "覚え書き, 备忘, 備忘錄, アイデア, 伝言メモ, idea, 아이디어, 아이디어 노트, 便签, 便簽, 備忘録",
      .generics = "정리, 정리본, 요약, 요약본, 요약문, 요약 정리, 초고, 초벌, 의견, 노트, 기록, 기록지, 기록물, "
-                 "결과, 내용, summary, summaries, "
-                 "notes, note, recap, takeaways, takeaway, records, record, findings, variants, january, february, "
-                 "march, april, may, june, july, august, september, october, november, december, results, result, "
-                 "list, まとめ, ノート, "
-                 "記録, 要約, 結果, 内容, 要点, 草稿, 素案, 月分, 月号, 初稿, 定稿, 修订稿, 第期, 第讲, 意见, 一月, "
-                 "二月, 三月, 四月, 五月, 六月, 七月, 八月, 九月, 十月, 总结, 總結, 笔记, 筆記, 记录, 紀錄, 摘要, "
-                 "小结, 结果, 纪要, 內容, "
-                 "整理",
+                 "결과, 내용, summary, summaries, notes, note, recap, takeaways, takeaway, records, record, "
+                 "findings, variants, january, february, march, april, may, june, july, august, september, "
+                 "october, november, december, results, result, list, まとめ, ノート, 記録, 要約, 結果, 内容, "
+                 "要点, 草稿, 素案, 月分, 月号, 初稿, 定稿, 修订稿, 第期, 第讲, 意见, 一月, 二月, 三月, 四月, "
+                 "五月, 六月, 七月, 八月, 九月, 十月, 总结, 總結, 笔记, 筆記, 记录, 紀錄, 摘要, 小结, 结果, 纪要, "
+                 "內容, 整理, xlsx, docx, pptx, pdf, md, csv, txt, hwp, sec, secs, min, mins, minutes, hours, "
+                 "days, weeks, pages, issue, grade, ltd, inc, llc, one, two, three, four, five, edition, series, "
+                 "session, episode, ep, season, spring, summer, fall, autumn, winter, monday, tuesday, wednesday, "
+                 "thursday, friday, saturday, sunday, approved, confidential, internal, latest, current, signed, "
+                 "제, 선, 건, 명, 쪽, 장, 가지, 상반기, 하반기, 학기, 봄, 여름, 가을, 겨울, 확정, 확정본, 확정안, "
+                 "배포용, 제출용, 발표용, 내부용, 사내용, 대외용, 검토용, 정제본, 파트, 本, 問, 選, 件, 名分, 枚, "
+                 "春, 夏, 秋, 冬, 前期, 後期, 上期, 下期, 上半期, 下半期, 抜粋, 確定版, 完成版, 修正版, 修正案, "
+                 "暫定版, 社内用, 配布用, 提出用, 条, 條, 篇, 份, 则, 道, 题, 題, 页, 頁, 例, 合集, 精选, 精選, "
+                 "大全, 汇总, 彙總, 修订版, 修訂版, 终稿, 终版, 最终版, 正式版, 完整版, 简版, 草案, 模板, 範本, "
+                 "范本, 样本, 示例, 上学期, 下学期, 上學期, 下學期, 上半年, 下半年, 学年, 學年, 组, 組, 表, 集, "
+                 "稿, 檔, 檔案, 版本, 上篇, 下篇, 全文, 詳細, 別紙, 控え",
      .cues = ""},
     {.kinds = anyOf<journal, changelog>,
-     .names = "일지, 작업 일지, 개발 일지, 운동 일지, 실험 일지, 연구 일지, 작업 로그, work log, dev log, devlog, "
-              "logbook, 日誌, 日志",
+     .names = "일지, 작업 일지, 개발 일지, 운동 일지, 실험 일지, 연구 일지, 작업 로그, work log, dev log, "
+              "devlog, logbook, 日誌, 日志, 운동 기록, 하루 기록, 工作日志, 手帐, 日録, daily log",
      .generics = "로그, logs, log, ログ",
      .cues = ""},
     {.kinds = anyOf<meetingNotes, retrospective>,
@@ -111,15 +150,21 @@ constexpr auto rows = std::to_array<Shared>({
              "ワークショップ, 朝会, 定例, 研讨会, 研討會, 例会, 周会"},
     {.kinds = anyOf<blogPost, socialPost, essay>,
      .names = "포스트, 게시글, 스레드, thread, スレッド, 후기, 체험기, 사용기, 방문기, 기고, post, write up, "
-              "writeup, 記事, 文章, 帖子, 体験記",
+              "writeup, 記事, 文章, 帖子, 体験記, 기사, 아티클, 포스팅, 블로그 포스트, 体験談, 博文, listicle",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<data, checklist>,
-     .names = "목록, 리스트, 현황표, 목록표, list, 一覧, 一覧表, リスト, 列表, 名单, 名單",
+     .names = "목록, 리스트, 현황표, 목록표, list, 一覧, 一覧表, リスト, 列表, 名单, 名單, 명단, 명부, "
+              "재고 현황, 관리 대장, roster, inventory, 名簿, 名册, 花名册, 名錄, 通讯录, 通訊錄, 台账, 台帳, "
+              "明细表, 明細表, 明细, 汇总表, 彙總表, 数据表, 數據表, 集計表, 住所録, 通訊録, spreadsheet, "
+              "주소록, 연락처, 집계표",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<guide, learning>,
-     .names = "",
+     .names = "튜토리얼, 치트 시트, 사용법, 사용 방법, cheat sheet, cheatsheet, quick start, quickstart, "
+              "getting started, walkthrough, チュートリアル, やり方, 始め方, 早見表, 教程, 教學, 指引, "
+              "操作步骤, 操作步驟, 帮助文档, 新手入门, playbook, handbook, 방법, 설치 방법, 手引き, "
+              "ハンド ブック, 使い方, 書き方",
      .generics = "문서, 문서화, 서류, 개요, 소개, 입문, 기초, documents, document, documentation, doc, docs, "
                  "overview, introduction, intro, basics, fundamentals, 文書, ドキュメント, 概要, 紹介, 入門, 基礎, "
                  "文档, 文檔, 文件, 概述, 简介, 簡介, 介绍, 介紹, 入门, 基础",
