@@ -36,7 +36,7 @@ constexpr auto rows = std::to_array<Base>({
      .weak = "ticket, stories",
      .markers = "as a user, so that i can, i want to, story point, acceptance criteria"},
     {.kind = meetingNotes,
-     .names = "meeting note, meeting minute, minutes, agenda, meetings",
+     .names = "meeting note, meeting minute, minutes, agenda",
      .cues = "meeting, standup, kickoff, call, one on one, sync, stand up",
      .weak = "discussion",
      .markers = "attendee, action item, decision, participant, agenda, next meeting"},
@@ -142,7 +142,7 @@ constexpr auto rows = std::to_array<Base>({
      .markers = ""},
     {.kind = designSystem,
      .names = "design system, brand book, style guide, brand guide, brand guideline, design guideline, "
-              "component library, design token, color palette, ui kit",
+              "component library, design token, color palette, ui kit, design system guideline",
      .cues = "brand, component",
      .weak = "",
      .markers = "typography"},
@@ -154,7 +154,7 @@ constexpr auto rows = std::to_array<Base>({
      .markers = ""},
     {.kind = sales,
      .names = "sales deck, sales pitch, sales script, sales proposal, price list, pricing, catalog, "
-              "company profile, success story, success stories",
+              "company profile, success story, success stories, call script",
      .cues = "sales, customer",
      .weak = "pitch, leads",
      .markers = ""},
@@ -169,8 +169,7 @@ constexpr auto rows = std::to_array<Base>({
      .weak = "",
      .markers = "unsubscribe, in this issue, subscriber"},
     {.kind = socialPost,
-     .names = "social post, social media post, linkedin post, instagram post, facebook post, tweet, twitter thread, "
-              "caption",
+     .names = "social post, linkedin post, instagram post, facebook post, tweet, twitter thread, caption",
      .cues = "social media, linkedin, instagram, twitter",
      .weak = "",
      .markers = ""},

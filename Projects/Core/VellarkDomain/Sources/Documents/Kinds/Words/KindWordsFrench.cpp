@@ -11,17 +11,17 @@ namespace {
 
 constexpr Layered words[] = {
     {.kind = DocumentKind::prd,
-     .nouns = "expression de besoins, expression des besoins, exigences produit, note de cadrage, fiche "
-              "projet, brief produit",
+     .nouns = "expression de besoins, expression des besoins, exigences produit, note de cadrage, "
+              "fiche projet, brief produit, fiche de cadrage",
      .weak = ""},
     {.kind = DocumentKind::spec,
      .nouns = "cahier des charges, cahiers des charges, spécification, spécifications, exigences, fiche "
               "technique, dossier technique, règles de gestion, besoins fonctionnels",
      .weak = "besoins"},
     {.kind = DocumentKind::plan,
-     .nouns = "plan, plans, plan d'action, plans d'action, plan projet, plan stratégique, plan "
-              "marketing, planning, calendrier, feuille de route, feuilles de route, stratégie, "
-              "stratégies, planification, rétroplanning, roadmap, emploi du temps, plane",
+     .nouns = "plan, plans, plan d'action, plan projet, plan stratégique, plan marketing, planning, "
+              "calendrier, feuille de route, feuilles de route, stratégie, stratégies, planification, "
+              "rétroplanning, roadmap, emploi du temps, plane, échéancier",
      .weak = "programme, programmes"},
     {.kind = DocumentKind::userStories,
      .nouns = "récit utilisateur, récits utilisateurs, user story, user stories, cas d'utilisation, cas "
@@ -29,38 +29,38 @@ constexpr Layered words[] = {
               "utilisateur",
      .weak = ""},
     {.kind = DocumentKind::meetingNotes,
-     .nouns = "compte rendu, comptes rendus, procès-verbal, procès-verbaux, pv d'assemblée générale, "
-              "cr de réunion, cr réunion, relevé de décisions, notes de réunion, ordre du jour, réunion d'équipe, "
-              "point hebdo, pv",
+     .nouns = "compte rendu, comptes rendus, procès-verbal, procès-verbaux, cr de réunion, cr réunion, "
+              "relevé de décisions, notes de réunion, ordre du jour, réunion d'équipe, point hebdo, pv, "
+              "cr point",
      .weak = ""},
     {.kind = DocumentKind::report,
      .nouns = "rapport, rapports, bilan, bilans, reporting, synthèse, synthèses, note de synthèse, "
-              "tableau de bord, tableaux de bord, état d'avancement, point d'avancement, analyse, "
-              "diagnostic, évaluation, évaluations, livre blanc, compte rendu d'activité, compte rendu "
-              "de mission, rapport d'activité, point d'étape",
+              "tableau de bord, tableaux de bord, état d'avancement, point d'avancement, analyse, diagnostic, "
+              "évaluation, évaluations, livre blanc, compte rendu d'activité, compte rendu de mission, "
+              "point d'étape",
      .weak = "suivi, suivis"},
     {.kind = DocumentKind::research,
-     .nouns = "étude, études, recherche, recherches, enquête, enquêtes, sondage, analyse "
-              "concurrentielle, analyse de marché, veille, état de l'art, revue de littérature, revue "
-              "de la littérature, questionnaire, questionnaires, benchmark concurrentiel",
+     .nouns = "étude, études, recherche, recherches, enquête, enquêtes, sondage, analyse concurrentielle, "
+              "analyse de marché, veille, état de l'art, revue de littérature, revue de la littérature, "
+              "questionnaire, questionnaires, benchmark concurrentiel, synthèse des entretiens",
      .weak = ""},
     {.kind = DocumentKind::retrospective,
      .nouns = "rétrospective, rétro, retour d'expérience, retours d'expérience, bilan de projet, bilan "
               "de sprint, rex projet",
      .weak = ""},
     {.kind = DocumentKind::checklist,
-     .nouns = "liste de contrôle, liste de vérification, liste de tâches, liste des tâches, liste de "
-              "courses, liste de choses à faire, choses à faire, à faire, checklist, checklists, "
-              "check-list, points à vérifier, tâches à faire",
+     .nouns = "liste de contrôle, liste de vérification, liste de tâches, liste des tâches, liste de courses, "
+              "liste de choses à faire, choses à faire, à faire, checklist, checklists, check-list, "
+              "points à vérifier, tâches à faire, liste des courses",
      .weak = "tâches, liste, listes"},
     {.kind = DocumentKind::proposal,
-     .nouns = "proposition, propositions, recommandation, recommandations, préconisations, demande de "
-              "subvention, demande de financement, réponse à appel d'offres, avant-projet, projet de "
-              "recherche, proposition commerciale, appel à projets",
+     .nouns = "proposition, propositions, recommandation, recommandations, préconisations, "
+              "demande de subvention, demande de financement, réponse à appel d'offres, avant-projet, "
+              "projet de recherche, appel à projets",
      .weak = ""},
     {.kind = DocumentKind::memo,
      .nouns = "note de service, notes de service, note interne, notes internes, mémo, mémos, pense-bête, "
-              "notes personnelles, bloc-notes",
+              "notes personnelles, bloc-notes, notes en vrac",
      .weak = ""},
     {.kind = DocumentKind::presentation,
      .nouns = "présentation, présentations, diaporama, support de présentation, diapositives, exposé, "
@@ -123,9 +123,9 @@ constexpr Layered words[] = {
               "charte de marque, bibliothèque de composants, palette de couleurs, charte éditoriale",
      .weak = ""},
     {.kind = DocumentKind::marketingCopy,
-     .nouns = "texte publicitaire, accroche, accroches, slogan, slogans, page de vente, "
-              "publicité, annonce publicitaire, dépliant, dépliants, description produit, fiche produit, "
-              "fiches produit, texte promotionnel, textes publicitaires",
+     .nouns = "texte publicitaire, accroche, accroches, slogan, slogans, page de vente, publicité, "
+              "annonce publicitaire, dépliant, dépliants, description produit, fiche produit, fiches produit, "
+              "texte promotionnel, textes publicitaires, affiche",
      .weak = ""},
     {.kind = DocumentKind::sales,
      .nouns = "offre, offres, argumentaire, "
@@ -133,7 +133,7 @@ constexpr Layered words[] = {
               "grille tarifaire",
      .weak = ""},
     {.kind = DocumentKind::pressRelease,
-     .nouns = "communiqué de presse, communiqués de presse, communiqué, communiqués, dossier de presse",
+     .nouns = "communiqué de presse, communiqué, communiqués, dossier de presse",
      .weak = ""},
     {.kind = DocumentKind::newsletter,
      .nouns = "newsletter, newsletters, lettre d'information, lettres d'information, infolettre, bulletin, "
@@ -149,10 +149,11 @@ constexpr Layered words[] = {
               "développement, projet d'entreprise, étude de faisabilité",
      .weak = ""},
     {.kind = DocumentKind::finance,
-     .nouns = "budget, budgets, budget prévisionnel, devis, facture, factures, bilan comptable, bilan "
-              "financier, compte de résultat, comptes annuels, plan de financement, plan de trésorerie, "
-              "note de frais, notes de frais, état financier, états financiers, rapport financier, bon "
-              "de commande, suivi budgétaire, fiche de paie, bulletin de paie, relevé de compte",
+     .nouns = "budget, budgets, budget prévisionnel, devis, facture, factures, bilan comptable, "
+              "bilan financier, compte de résultat, comptes annuels, plan de financement, plan de trésorerie, "
+              "note de frais, notes de frais, état financier, états financiers, rapport financier, "
+              "bon de commande, suivi budgétaire, fiche de paie, bulletin de paie, relevé de compte, "
+              "quittance, bon de livraison",
      .weak = ""},
     {.kind = DocumentKind::legal,
      .nouns = "contrat, contrats, convention, conventions, accord, conditions générales, conditions "
@@ -175,17 +176,17 @@ constexpr Layered words[] = {
               "recrutement, avis de recrutement",
      .weak = ""},
     {.kind = DocumentKind::email,
-     .nouns = "courriel, courriels, lettre, courrier, mail de relance, e-mail de relance, mail de "
-              "remerciement, e-mail de bienvenue, mail de bienvenue, mail de prospection, e-mail de "
-              "prospection, mail de confirmation, réponse au client, mail aux",
+     .nouns = "courriel, courriels, lettre, courrier, mail de relance, e-mail de relance, "
+              "mail de remerciement, e-mail de bienvenue, mail de bienvenue, mail de prospection, "
+              "e-mail de prospection, mail de confirmation, réponse au client, mail aux, mail d'excuses",
      .weak = "mail, mails, e-mail, e-mails"},
     {.kind = DocumentKind::faq,
      .nouns = "foire aux questions, questions fréquentes, faq, faqs, questions fréquemment posées, "
               "questions-réponses, questions et réponses, article d'aide",
      .weak = ""},
     {.kind = DocumentKind::blogPost,
-     .nouns = "article de blog, billet de blog, article, articles, billet, billets, témoignage, "
-              "témoignages, reportage, récit de voyage, article blog",
+     .nouns = "article de blog, article, articles, billet, billets, témoignage, témoignages, reportage, "
+              "récit de voyage, article blog",
      .weak = ""},
     {.kind = DocumentKind::script,
      .nouns = "scénario, scénarios, discours, script vidéo, script de podcast, pièce de théâtre, "
@@ -227,14 +228,13 @@ constexpr Layered words[] = {
               "td",
      .weak = ""},
     {.kind = DocumentKind::solutions,
-     .nouns = "corrigé, corrigés, solution des exercices, correction des exercices, correction du "
-              "devoir, correction du contrôle, éléments de correction, correction du, correction des, "
-              "correction exercices, solutions des exercices",
+     .nouns = "corrigé, corrigés, solution des exercices, éléments de correction, correction du, "
+              "correction des, correction exercices, solutions des exercices",
      .weak = ""},
     {.kind = DocumentKind::quiz,
-     .nouns = "qcm, sujet d'examen, examen blanc, examen final, devoir surveillé, interrogation, "
-              "interro, contrôle de connaissances, épreuve, épreuves, partiel, bac blanc, dictée, sujet "
-              "de bac, contrôle de mathématiques",
+     .nouns = "qcm, sujet d'examen, devoir surveillé, interrogation, interro, contrôle de connaissances, "
+              "épreuve, épreuves, partiel, bac blanc, dictée, sujet de bac, contrôle de mathématiques, "
+              "contrôle continu",
      .weak = "quiz, examen, examens, contrôle, contrôles"},
     {.kind = DocumentKind::errorNotes,
      .nouns = "cahier d'erreurs, cahier des erreurs, carnet d'erreurs, analyse des erreurs, erreurs "

@@ -10,7 +10,7 @@ namespace {
 
 constexpr Layered words[] = {
     {.kind = DocumentKind::prd,
-     .nouns = "konzept, produktanforderungen, projektskizze, produktanforderungsdokument",
+     .nouns = "konzept, produktanforderungen, projektskizze, produktanforderungsdokument, produktbriefing",
      .weak = ""},
     {.kind = DocumentKind::spec,
      .nouns = "spezifikation, spezifikationen, pflichtenheft, lastenheft, anforderungen, "
@@ -19,7 +19,7 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::plan,
      .nouns = "plan, pläne, zeitplan, terminplan, projektplan, aktionsplan, maßnahmenplan, wochenplan, "
-              "dienstplan, planung, strategie, roadmap, schichtplan, redaktionsplan",
+              "dienstplan, planung, strategie, roadmap, schichtplan, migrationsplan",
      .weak = ""},
     {.kind = DocumentKind::userStories,
      .nouns = "user story, user stories, nutzergeschichte, nutzergeschichten, anwendungsfall, anwendungsfälle, "
@@ -34,8 +34,8 @@ constexpr Layered words[] = {
               "versuchsprotokoll",
      .weak = ""},
     {.kind = DocumentKind::research,
-     .nouns = "recherche, marktforschung, marktanalyse, wettbewerbsanalyse, umfrage, umfragen, studie, studien, "
-              "befragung, fragebogen, literaturübersicht",
+     .nouns = "recherche, marktforschung, marktanalyse, wettbewerbsanalyse, umfrage, umfragen, studie, "
+              "studien, befragung, fragebogen, literaturübersicht, umfrageergebnisse",
      .weak = ""},
     {.kind = DocumentKind::retrospective,
      .nouns = "retrospektive, retrospektiven, rückblick, lessons learned, reflexion",
@@ -48,7 +48,7 @@ constexpr Layered words[] = {
      .nouns = "vorschlag, vorschläge, antrag, anträge, empfehlung, empfehlungen, entscheidungsvorlage, "
               "beschlussvorlage",
      .weak = ""},
-    {.kind = DocumentKind::memo, .nouns = "notiz, notizen, vermerk, memo an, notizzettel", .weak = ""},
+    {.kind = DocumentKind::memo, .nouns = "notiz, notizen, vermerk, memo an, notizzettel, ideensammlung", .weak = ""},
     {.kind = DocumentKind::presentation,
      .nouns = "präsentation, präsentationen, folien, vortrag, vorträge, referat, foliensatz",
      .weak = ""},
@@ -147,14 +147,14 @@ constexpr Layered words[] = {
     {.kind = DocumentKind::email,
      .nouns = "geschäftsbrief, begleitschreiben, dankschreiben, kündigungsschreiben, antwortschreiben, "
               "beschwerdebrief, dankesmail, erinnerungsmail, einladungsmail, rundmail, willkommensmail, "
-              "e-mail an, mail an, dankesschreiben",
+              "mail an, dankesschreiben",
      .weak = "mail, mails, e-mail"},
     {.kind = DocumentKind::faq,
      .nouns = "häufige fragen, häufig gestellte fragen, faq, faqs, fragen und antworten, fragenkatalog",
      .weak = ""},
     {.kind = DocumentKind::blogPost,
-     .nouns = "blogbeitrag, blogbeiträge, blogartikel, blogeintrag, blogpost, gastbeitrag, artikel, "
-              "erfahrungsbericht, reisebericht, reportage",
+     .nouns = "blogbeitrag, blogbeiträge, blogeintrag, blogpost, gastbeitrag, artikel, erfahrungsbericht, "
+              "reisebericht, reportage",
      .weak = ""},
     {.kind = DocumentKind::script,
      .nouns = "drehbuch, rede, reden, sprechtext, videoskript, theaterstück, untertitel, ansprache, laudatio, "
@@ -176,7 +176,7 @@ constexpr Layered words[] = {
               "schulungsunterlagen, kursunterlagen, lehrbuch, modulhandbuch",
      .weak = ""},
     {.kind = DocumentKind::lectureNotes,
-     .nouns = "mitschrift, mitschriften, vorlesungsnotizen, vorlesungsskript, vorlesungsmitschrift",
+     .nouns = "mitschrift, mitschriften, vorlesungsnotizen, vorlesungsskript",
      .weak = ""},
     {.kind = DocumentKind::studyNotes,
      .nouns = "lernzettel, karteikarten, prüfungsvorbereitung, klausurvorbereitung, vokabelliste, "

@@ -100,7 +100,9 @@ constexpr auto rows = std::to_array<Shared>({
               "exam review, formula sheet, 単語帳, 暗記カード, 考点, 单词表, 單字表, 词汇表, 复习资料, "
               "複習資料, 重點整理, 背诵, 知识总结, 自习笔记, 自習 ノート, まとめ ノート, 要点 まとめ, "
               "暗記 ノート, til, learning log, learning note, 개념 정리, 핵심 정리, 요점 정리, 요약 노트, "
-              "배운 내용, 知识点, 复习提纲, 複習提綱",
+              "배운 내용, 知识点, 复习提纲, 複習提綱, 중간고사 정리, 기말고사 정리, 시험 정리, "
+              "중간고사 요약 정리, 기말고사 요약 정리, 시험 요약 정리, 중간고사 대비, 기말고사 대비, "
+              "시험 범위 정리",
      .generics = "",
      .cues = "시험, 중간고사, 기말고사, 중간, 기말, 단원, 수학, 영어, 국어, 과학, 물리, 화학, 생물, 지구과학, "
              "한국사, 세계사, 역사, 사회, 경제학, 심리학, 통계학, 미적분, 선형대수, 문법, 영문법, 단어, 어휘, 한자, "
@@ -135,7 +137,12 @@ constexpr auto rows = std::to_array<Shared>({
                  "暫定版, 社内用, 配布用, 提出用, 条, 條, 篇, 份, 则, 道, 题, 題, 页, 頁, 例, 合集, 精选, 精選, "
                  "大全, 汇总, 彙總, 修订版, 修訂版, 终稿, 终版, 最终版, 正式版, 完整版, 简版, 草案, 模板, 範本, "
                  "范本, 样本, 示例, 上学期, 下学期, 上學期, 下學期, 上半年, 下半年, 学年, 學年, 组, 組, 表, 集, "
-                 "稿, 檔, 檔案, 版本, 上篇, 下篇, 全文, 詳細, 別紙, 控え",
+                 "稿, 檔, 檔案, 版本, 上篇, 下篇, 全文, 詳細, 別紙, 控え, chapter, section, appendix, dump, "
+                 "export, backup, 화, 막, 절, 과, 세트, 박, 인분, 분, 초, 시간, 話, 章, 節, 回分, 人前, 分, 章节, "
+                 "januar, februar, märz, mai, juni, juli, oktober, dezember, janvier, février, mars, avril, juin, "
+                 "juillet, août, septembre, octobre, novembre, décembre, enero, febrero, marzo, abril, mayo, "
+                 "junio, julio, agosto, septiembre, octubre, noviembre, diciembre, kapitel, chapitre, capítulo, "
+                 "tema, kw, semaine, semana, folge, ausgabe, teil, épisode, episodio",
      .cues = ""},
     {.kinds = anyOf<journal, changelog>,
      .names = "일지, 작업 일지, 개발 일지, 운동 일지, 실험 일지, 연구 일지, 작업 로그, work log, dev log, "

@@ -14,7 +14,8 @@ namespace {
 constexpr std::array<Layered, 55> words{{
     {DocumentKind::prd,
      "documento de requisitos del producto, requisitos del producto, requerimientos del producto, "
-     "visión del producto, brief de producto, prd, definición de producto, requisitos de producto",
+     "visión del producto, brief de producto, prd, definición de producto, requisitos de producto, "
+     "documento de requisitos de producto",
      ""},
     {DocumentKind::spec,
      "especificación, especificaciones, pliego de condiciones, requisitos, requerimientos, "
@@ -61,11 +62,10 @@ constexpr std::array<Layered, 55> words{{
     {DocumentKind::memo, "memorando, memo, nota, notas, recordatorio, lluvia de ideas, recordatorios, memorándum", ""},
     {DocumentKind::presentation, "presentación, presentaciones, diapositivas, ponencia, charla, exposición", ""},
     {DocumentKind::designDoc,
-     "documento de diseño, diseño técnico, diseño de arquitectura, diseño del sistema, diseño "
-     "de software, diseño de base de datos, diseño de la base de datos, diseño de api, "
-     "arquitectura del sistema, arquitectura de software, decisión de arquitectura, decisiones "
-     "de arquitectura, modelo de datos, esquema de base de datos, adr, rfc, diagrama de flujo, "
-     "documento de arquitectura, arquitectura, diagrama",
+     "documento de diseño, diseño técnico, diseño de arquitectura, diseño del sistema, "
+     "diseño de software, diseño de base de datos, diseño de la base de datos, diseño de api, "
+     "decisión de arquitectura, modelo de datos, esquema de base de datos, rfc, "
+     "documento de arquitectura, arquitectura, diagrama, diagrama de flujo",
      ""},
     {DocumentKind::apiDoc,
      "documentación de la api, documentación de api, referencia de la api, referencia de api, "
@@ -151,8 +151,8 @@ constexpr std::array<Layered, 55> words{{
      "lineamientos, directrices",
      ""},
     {DocumentKind::notice,
-     "aviso, avisos, anuncio, anuncios, comunicado, comunicados, circular informativa, circular interna, "
-     "notificación, convocatoria, invitación",
+     "aviso, avisos, anuncio, anuncios, comunicado, comunicados, circular informativa, "
+     "circular interna, notificación, convocatoria, invitación, circular",
      ""},
     {DocumentKind::jobPosting,
      "oferta de empleo, ofertas de empleo, oferta de trabajo, ofertas de trabajo, anuncio de empleo, vacante, "
@@ -162,8 +162,8 @@ constexpr std::array<Layered, 55> words{{
      "correo electrónico, correos electrónicos, correo de bienvenida, correo de seguimiento, "
      "correo para, correo a, email de, email para, borrador de correo, plantilla de correo, "
      "plantillas de correo, respuesta al cliente, carta de recomendación, carta de renuncia, "
-     "carta de agradecimiento, carta al cliente, carta formal, mensaje para, mensaje de "
-     "bienvenida, carta de reclamación, correo de agradecimiento",
+     "carta de agradecimiento, mensaje para, mensaje de bienvenida, carta de reclamación, "
+     "correo de agradecimiento, carta a, carta de disculpa, correo de disculpa",
      "carta, cartas, correo, correos"},
     {DocumentKind::faq,
      "preguntas frecuentes, pregunta frecuente, preguntas y respuestas, preguntas más frecuentes, "
@@ -216,8 +216,9 @@ constexpr std::array<Layered, 55> words{{
      ""},
     {DocumentKind::exercises,
      "ejercicios, ejercicio, problemas de matemáticas, problemas de física, hoja de ejercicios, "
-     "hojas de ejercicios, cuaderno de ejercicios, guía de ejercicios, lista de ejercicios, tarea de matemáticas, "
-     "deberes, hoja de trabajo, hojas de trabajo, banco de preguntas, trabajo práctico",
+     "hojas de ejercicios, cuaderno de ejercicios, guía de ejercicios, lista de ejercicios, "
+     "tarea de matemáticas, deberes, hoja de trabajo, hojas de trabajo, banco de preguntas, "
+     "trabajo práctico, hoja de problemas",
      ""},
     {DocumentKind::solutions,
      "solucionario, solucionarios, solución del examen, solución de los ejercicios, soluciones "
