@@ -38,10 +38,13 @@ template <class... Keys>
 /// as an escape, which is no JSON: it counts as U+FFFD, so that the rest of the line is not lost.
 [[nodiscard]] Result<JSONValue, JSONError> readRecordLine(std::string_view text);
 
-/// The moment of an ISO 8601 text under a key.
-[[nodiscard]] inline std::optional<Date> momentIn(const JSONObject& object, std::string_view key) {
-    const auto seconds = CaptureRules::eventSeconds(textIn(object, key));
+/// The moment of an ISO 8601 text.
+[[nodiscard]] inline std::optional<Date> momentOf(std::string_view text) {
+    const auto seconds = CaptureRules::eventSeconds(text);
     return seconds ? std::optional(Date{*seconds}) : std::nullopt;
+}
+[[nodiscard]] inline std::optional<Date> momentIn(const JSONObject& object, std::string_view key) {
+    return momentOf(textIn(object, key));
 }
 
 }  // namespace vellark

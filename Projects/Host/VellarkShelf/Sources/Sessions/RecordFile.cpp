@@ -40,9 +40,10 @@ std::optional<std::vector<std::int64_t>> RecordFile::fingerprintOf(const std::st
     return fingerprintFrom(status);
 }
 
-std::size_t RecordFile::read(std::int64_t offset, char* buffer, std::size_t room) const {
+std::size_t RecordFile::read(std::int64_t offset, char* place, std::size_t room) const {
+    const auto left = static_cast<std::size_t>(std::max<std::int64_t>(fingerprint_.front() - offset, 0));
     for (;;) {
-        const ssize_t count = ::pread(file_.get(), buffer, room, static_cast<off_t>(offset));
+        const ssize_t count = ::pread(file_.get(), place, std::min(room, left), static_cast<off_t>(offset));
         if (count >= 0) return static_cast<std::size_t>(count);
         if (errno != EINTR) return 0;
     }
@@ -59,9 +60,7 @@ void RecordFile::walk(std::int64_t from, const Visitor& visit) const {
     for (std::int64_t start = from; start + static_cast<std::int64_t>(filled) < fileEnd || filled > 0;) {
         const std::int64_t next = start + static_cast<std::int64_t>(filled);
         if (filled == buffer.size()) buffer.resize(2 * buffer.size());
-        const auto room = static_cast<std::size_t>(
-            std::min<std::int64_t>(static_cast<std::int64_t>(buffer.size() - filled), fileEnd - next));
-        const std::size_t count = room == 0 ? 0 : read(next, buffer.data() + filled, room);
+        const std::size_t count = read(next, buffer.data() + filled, buffer.size() - filled);
         filled += count;
 
         std::size_t lineStart = 0;
@@ -90,20 +89,6 @@ void RecordFile::walk(std::int64_t from, const Visitor& visit) const {
         }
         searched = filled;
     }
-}
-
-std::optional<std::string> RecordFile::content(std::size_t maximumBytes) const {
-    const auto size = static_cast<std::size_t>(fingerprint_.front());
-    if (size > maximumBytes) return std::nullopt;
-    std::string text(size, '\0');
-    std::size_t done = 0;
-    while (done < size) {
-        const std::size_t count = read(static_cast<std::int64_t>(done), text.data() + done, size - done);
-        if (count == 0) break;
-        done += count;
-    }
-    text.resize(done);
-    return text;
 }
 
 }  // namespace vellark

@@ -43,14 +43,13 @@ public:
     /// handed out as far as it goes.
     void walk(std::int64_t from, const Visitor& visit) const;
 
-    /// All bytes; nothing when there are more than `maximumBytes`.
-    [[nodiscard]] std::optional<std::string> content(std::size_t maximumBytes) const;
+    /// Bytes from an offset on, of those that were there when the file was opened. Gives how many were put at the
+    /// place: 0 at the end, and where the file cannot be read.
+    [[nodiscard]] std::size_t read(std::int64_t offset, char* place, std::size_t room) const;
 
 private:
     RecordFile(FileDescriptor file, std::vector<std::int64_t> fingerprint)
         : file_(std::move(file)), fingerprint_(std::move(fingerprint)) {}
-
-    [[nodiscard]] std::size_t read(std::int64_t offset, char* buffer, std::size_t room) const;
 
     FileDescriptor file_;
     std::vector<std::int64_t> fingerprint_;

@@ -145,6 +145,27 @@ TEST_F(SessionCatalogTests, geminiChat) {
     EXPECT_NE(told().find("Edited 1 file"), std::string::npos) << told();
 }
 
+// Messages are read one at a time: a record may have its keys in any order, strange messages among the good ones, and
+// an end that is still being written.
+TEST_F(SessionCatalogTests, geminiChatsThatAreNotAsWritten) {
+    const std::string user =
+        R"({"type":"user","timestamp":"2026-03-01T09:00:01.000Z","content":"Write \ud83d a poem"})";
+    const std::string strange = R"([1], "text", null, {}, {"type":7}, {"type":"user","content":"\q"})";
+    const std::string padding = R"({"type":"info","content":")" + std::string(3 << 20, 'x') + R"("})";
+    const std::string answer = R"({"type":"gemini","timestamp":"2026-03-01T09:00:09.000Z","content":"Here {it} is."})";
+    const std::string messages = R"("messages" : [ )" + strange + " ,\n" + user + "," + padding + " , " + answer;
+    write(".gemini/tmp/a/chats/session-1.json",
+          R"({"startTime":null,"other":{"messages":[]},)" + messages + R"( ] ,"summary":"A poem","sessionId":"s1"})");
+    write(".gemini/tmp/b/chats/session-2.json", R"({"sessionId":"s2",)" + messages + R"(, {"type":"gemini","conte)");
+    write(".gemini/tmp/c/chats/session-3.json", R"({"sessionId":"s3",)");
+    const auto all = sessions();
+    ASSERT_EQ(all.size(), 2U);
+    for (const ConversationSession& session : all) {
+        EXPECT_EQ(session.instruction, "Write \uFFFD a poem") << session.threadID;
+        EXPECT_EQ(session.preview, "Here {it} is.") << session.threadID;
+    }
+}
+
 // A text cut inside a surrogate pair costs its half character, and no more.
 TEST_F(SessionCatalogTests, halfCharacters) {
     write(".claude/projects/-p/s1.jsonl", claudeSay("user", R"("Fix \ud83d it \\ud83d \ud83d\ude00 \ude00")") +
