@@ -95,8 +95,10 @@ private:
     void add(SessionEvent::Activity&) { open(); }
     void add(SessionEvent::Compaction&) { isCompacted_ = true; }
 
+    // An end behind a failure does not undo it; new work does.
     void add(SessionEvent::Outcome& outcome) {
         using State = SessionEvent::Outcome::State;
+        if (session_.failed && outcome.state == State::finished) return;
         session_.finished = outcome.state == State::finished;
         session_.failed = outcome.state == State::failed;
         session_.interrupted = outcome.state == State::interrupted;

@@ -132,6 +132,35 @@ TEST_F(SessionCatalogTests, codexRollout) {
     EXPECT_NE(feed.find("Fixed."), std::string::npos) << feed;
 }
 
+// The end of a turn does not undo its failure; what the agent does next does.
+TEST_F(SessionCatalogTests, howACodexSessionStands) {
+    const std::string ask = codexItem(R"({"type":"message","role":"user","content":[{"text":"Fix it"}]})");
+    const std::string answer = codexItem(R"({"type":"message","role":"assistant","content":[{"text":"Fixed."}]})");
+    const auto event = [](std::string_view type) {
+        return line("event_msg", R"("payload":{"type":")" + std::string(type) + R"("})");
+    };
+    const struct {
+        std::string lines;
+        bool finished, failed, interrupted;
+    } rows[] = {
+        {ask + answer, false, false, false},
+        {ask + answer + event("task_complete"), true, false, false},
+        {ask + event("error") + event("task_complete"), false, true, false},
+        {ask + event("error") + answer + event("turn_complete"), true, false, false},
+        {ask + event("error") + event("turn_aborted"), false, false, true},
+        {ask + event("turn_aborted") + ask, false, false, false},
+    };
+    for (const auto& row : rows) {
+        write(".codex/sessions/2026/03/01/rollout-1.jsonl",
+              line("session_meta", R"("payload":{"id":"s2","cwd":"/q"})") + row.lines);
+        const auto all = sessions();
+        ASSERT_EQ(all.size(), 1U);
+        EXPECT_EQ(all[0].finished, row.finished) << row.lines;
+        EXPECT_EQ(all[0].failed, row.failed) << row.lines;
+        EXPECT_EQ(all[0].interrupted, row.interrupted) << row.lines;
+    }
+}
+
 TEST_F(SessionCatalogTests, geminiChat) {
     write(".gemini/tmp/hash/chats/session-1.json",
           R"({"sessionId":"s3","startTime":"2026-03-01T09:00:00.000Z","messages":[
