@@ -19,8 +19,8 @@ std::string joined(const std::vector<std::string>& lines) {
 // untitled documents in languages without phrases of the opening.
 TEST(KindCorpus, isClassifiedAsPromised) {
     constexpr double mostDecidedWithoutKind = 3;
-    constexpr double fewestDocumentsRight = 78;
-    const std::map<std::string, double> lower = {{"en", 88}, {"ja", 82}, {"zh", 87}};
+    constexpr double fewestDocumentsRight = 80;
+    const std::map<std::string, double> lower = {{"en", 91}, {"ko", 94}, {"zh", 91}};
     testing::KindCorpus corpus(std::string(VELLARK_TEST_DATA) + "/Kinds");
     if (!corpus.run()) GTEST_SKIP() << "no titles in Tests/Data/Kinds";
     for (const auto& [language, score] : corpus.languages) {

@@ -51,7 +51,7 @@ constexpr Base words[] = {
      .names = "振り返り, ふりかえり, レトロ スペクティブ, kpt",
      .cues = "反省",
      .weak = "",
-     .markers = ""},
+     .markers = "よかった点, 改善点, 学び"},
     {.kind = DocumentKind::checklist,
      .names = "チェック リスト, 確認 事項, やること リスト, タスク リスト, 買い物 リスト, 持ち物 リスト, "
               "チェック シート, 確認項目 一覧, todo リスト",
@@ -185,7 +185,7 @@ constexpr Base words[] = {
      .names = "求人票, 求人, 募集 要項, 募集, 職務 記述書, 求人 情報, 採用 情報",
      .cues = "採用, 応募",
      .weak = "",
-     .markers = ""},
+     .markers = "応募資格, 仕事内容, 福利厚生"},
     {.kind = DocumentKind::email,
      .names = "メール 文面, メール文, 手紙, 礼状, 返信文, 文例",
      .cues = "返信, お礼, 依頼, お詫び",
