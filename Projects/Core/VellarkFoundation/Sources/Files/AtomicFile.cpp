@@ -1,4 +1,5 @@
 #include <VellarkFoundation/Files/AtomicFile.hpp>
+#include <VellarkFoundation/Files/FileTransfer.hpp>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -32,12 +33,7 @@ AtomicFile::~AtomicFile() {
 }
 
 Result<void, SystemError> AtomicFile::write(std::string_view bytes) {
-    while (!bytes.empty()) {
-        const ssize_t count = ::write(file_.get(), bytes.data(), bytes.size());
-        if (count < 0 && errno == EINTR) continue;
-        if (count < 0) return lastError();
-        bytes.remove_prefix(static_cast<std::size_t>(count));
-    }
+    if (!FileTransfer::write(file_.get(), bytes)) return lastError();
     return {};
 }
 

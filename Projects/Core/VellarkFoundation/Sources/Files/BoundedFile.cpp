@@ -1,10 +1,9 @@
 #include <VellarkFoundation/Files/BoundedFile.hpp>
 #include <VellarkFoundation/Files/FileDescriptor.hpp>
+#include <VellarkFoundation/Files/FileTransfer.hpp>
 
 #include <fcntl.h>
 #include <sys/stat.h>
-
-#include <cerrno>
 
 namespace vellark::BoundedFile {
 
@@ -20,11 +19,10 @@ std::optional<std::string> read(const std::string& path, std::size_t maximumByte
     std::size_t length = 0;
     while (true) {
         if (length == content.size()) content.resize(2 * content.size());
-        const ssize_t count = ::read(file.get(), content.data() + length, content.size() - length);
-        if (count < 0 && errno == EINTR) continue;
-        if (count < 0) return std::nullopt;
-        if (count == 0) break;
-        length += static_cast<std::size_t>(count);
+        const auto count = FileTransfer::read(file.get(), content.data() + length, content.size() - length);
+        if (!count) return std::nullopt;
+        if (*count == 0) break;
+        length += *count;
         if (length > maximumBytes) return std::nullopt;
     }
     content.resize(length);

@@ -1,4 +1,5 @@
 #include <VellarkFoundation/Digest/SHA256Stream.hpp>
+#include <VellarkFoundation/Files/FileTransfer.hpp>
 #include <VellarkShelf/Collect/FileContent.hpp>
 
 #include <fcntl.h>
@@ -29,25 +30,20 @@ std::string pathOf(int descriptor) {
 }
 
 double secondsOf(const struct stat& status) {
-#ifdef __APPLE__
-    const timespec& modified = status.st_mtimespec;
-#else
-    const timespec& modified = status.st_mtim;
-#endif
+    const timespec modified = FileTransfer::modificationTime(status);
     return static_cast<double>(modified.tv_sec) + static_cast<double>(modified.tv_nsec) / 1e9;
 }
 
-// Bytes read into the buffer from the offset on, less than asked for at the end only; -1 on failure.
-ssize_t readAt(int descriptor, char* buffer, std::size_t size, std::size_t offset) {
+// Bytes read into the buffer from the offset on, less than asked for at the end only; nothing on failure.
+std::optional<std::size_t> readFully(int descriptor, char* buffer, std::size_t size, std::size_t offset) {
     std::size_t done = 0;
     while (done < size) {
-        const ssize_t count = ::pread(descriptor, buffer + done, size - done, static_cast<off_t>(offset + done));
-        if (count < 0 && errno == EINTR) continue;
-        if (count < 0) return -1;
-        if (count == 0) break;
-        done += static_cast<std::size_t>(count);
+        const auto count = FileTransfer::readAt(descriptor, offset + done, buffer + done, size - done);
+        if (!count) return std::nullopt;
+        if (*count == 0) break;
+        done += *count;
     }
-    return static_cast<ssize_t>(done);
+    return done;
 }
 
 }  // namespace
@@ -79,9 +75,9 @@ std::optional<std::string> OpenedFile::content(std::size_t maximumBytes) {
         const std::uint64_t expectedSize = byteCount_;
         const double expectedTime = modifiedAt_;
         text.resize(byteCount_ + 1);  // one more shows that the file has grown
-        const ssize_t count = readAt(file_.get(), text.data(), text.size(), 0);
-        if (count < 0 || !inspect()) return std::nullopt;
-        text.resize(static_cast<std::size_t>(count));
+        const auto count = readFully(file_.get(), text.data(), text.size(), 0);
+        if (!count || !inspect()) return std::nullopt;
+        text.resize(*count);
         const bool isSteady = text.size() == expectedSize && byteCount_ == expectedSize && modifiedAt_ == expectedTime;
         if (isSteady) break;
     }
@@ -93,11 +89,11 @@ std::optional<std::string> OpenedFile::digest() {
     SHA256Stream stream;
     std::string block(blockSize, '\0');
     for (std::size_t offset = 0;;) {
-        const ssize_t count = readAt(file_.get(), block.data(), block.size(), offset);
-        if (count < 0) return std::nullopt;
-        if (count == 0) return stream.hexadecimal();
-        stream.add(std::string_view(block).substr(0, static_cast<std::size_t>(count)));
-        offset += static_cast<std::size_t>(count);
+        const auto count = readFully(file_.get(), block.data(), block.size(), offset);
+        if (!count) return std::nullopt;
+        if (*count == 0) return stream.hexadecimal();
+        stream.add(std::string_view(block).substr(0, *count));
+        offset += *count;
     }
 }
 

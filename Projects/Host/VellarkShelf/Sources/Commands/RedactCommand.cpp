@@ -1,4 +1,5 @@
 #include <VellarkDomain/Conversations/Redaction/Redaction.hpp>
+#include <VellarkFoundation/Files/FileTransfer.hpp>
 #include <VellarkShelf/Commands/Commands.hpp>
 
 #include <unistd.h>
@@ -18,10 +19,10 @@ bool readAll(int descriptor, std::string& text) {
     for (;;) {
         const std::size_t used = text.size();
         text.resize(used + readSize);
-        const ssize_t count = ::read(descriptor, text.data() + used, readSize);
-        text.resize(used + (count > 0 ? static_cast<std::size_t>(count) : 0));
-        if (count == 0) return true;
-        if (count < 0 && errno != EINTR) return false;
+        const auto count = FileTransfer::read(descriptor, text.data() + used, readSize);
+        text.resize(used + count.value_or(0));
+        if (!count) return false;
+        if (*count == 0) return true;
     }
 }
 

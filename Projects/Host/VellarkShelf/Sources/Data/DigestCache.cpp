@@ -1,5 +1,6 @@
 #include <VellarkFoundation/Files/BoundedFile.hpp>
 #include <VellarkFoundation/Files/FileDescriptor.hpp>
+#include <VellarkFoundation/Files/FileTransfer.hpp>
 #include <VellarkFoundation/JSON/JSONCursor.hpp>
 #include <VellarkFoundation/Records/DirectRecordReader.hpp>
 #include <VellarkFoundation/Records/RecordWriter.hpp>
@@ -7,10 +8,8 @@
 #include <VellarkShelf/Data/DigestCache.hpp>
 
 #include <fcntl.h>
-#include <unistd.h>
 
 #include <algorithm>
-#include <cerrno>
 #include <limits>
 
 namespace vellark {
@@ -72,13 +71,7 @@ bool DigestCache::save() {
     if (!file.isOpen()) return false;
     // One write, behind a line feed that ends whatever an interrupted one has left.
     const std::string lines = "\n" + added_;
-    std::string_view rest = lines;
-    while (!rest.empty()) {
-        const ssize_t count = ::write(file.get(), rest.data(), rest.size());
-        if (count < 0 && errno == EINTR) continue;
-        if (count <= 0) return false;
-        rest.remove_prefix(static_cast<std::size_t>(count));
-    }
+    if (!FileTransfer::write(file.get(), lines)) return false;
     added_.clear();
     return true;
 }

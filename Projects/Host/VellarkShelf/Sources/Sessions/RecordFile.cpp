@@ -1,11 +1,10 @@
+#include <VellarkFoundation/Files/FileTransfer.hpp>
 #include <VellarkShelf/Sessions/RecordFile.hpp>
 
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <algorithm>
-#include <cerrno>
 #include <cstring>
 
 namespace vellark {
@@ -15,11 +14,7 @@ namespace {
 constexpr std::size_t pieceSize = 256 * 1024;
 
 std::vector<std::int64_t> fingerprintFrom(const struct stat& status) {
-#ifdef __APPLE__
-    const timespec& modified = status.st_mtimespec;
-#else
-    const timespec& modified = status.st_mtim;
-#endif
+    const timespec modified = FileTransfer::modificationTime(status);
     return {static_cast<std::int64_t>(status.st_size),
             static_cast<std::int64_t>(modified.tv_sec) * 1'000'000'000 + modified.tv_nsec,
             static_cast<std::int64_t>(status.st_ino), static_cast<std::int64_t>(status.st_dev)};
@@ -42,11 +37,8 @@ std::optional<std::vector<std::int64_t>> RecordFile::fingerprintOf(const std::st
 
 std::size_t RecordFile::read(std::int64_t offset, char* place, std::size_t room) const {
     const auto left = static_cast<std::size_t>(std::max<std::int64_t>(fingerprint_.front() - offset, 0));
-    for (;;) {
-        const ssize_t count = ::pread(file_.get(), place, std::min(room, left), static_cast<off_t>(offset));
-        if (count >= 0) return static_cast<std::size_t>(count);
-        if (errno != EINTR) return 0;
-    }
+    return FileTransfer::readAt(file_.get(), static_cast<std::uint64_t>(offset), place, std::min(room, left))
+        .value_or(0);
 }
 
 // The buffer holds the bytes from `start` of the file on. A line that outgrows it makes it grow, up to the longest

@@ -1,9 +1,9 @@
+#include <VellarkFoundation/Files/FileTransfer.hpp>
 #include <VellarkShelf/Terminal/TerminalOutput.hpp>
 
 #include <sys/ioctl.h>
 #include <unistd.h>
 
-#include <cerrno>
 #include <chrono>
 #include <cstdio>
 
@@ -41,16 +41,7 @@ void TerminalOutput::write(std::string_view text) {
 }
 
 bool TerminalOutput::flush() {
-    std::string_view rest = buffer_;
-    while (!rest.empty() && !failed_) {
-        const ssize_t count = ::write(STDOUT_FILENO, rest.data(), rest.size());
-        if (count < 0 && errno == EINTR) continue;
-        if (count <= 0) {
-            failed_ = true;
-        } else {
-            rest.remove_prefix(static_cast<std::size_t>(count));
-        }
-    }
+    failed_ = failed_ || !FileTransfer::write(STDOUT_FILENO, buffer_);
     buffer_.clear();
     return !failed_;
 }

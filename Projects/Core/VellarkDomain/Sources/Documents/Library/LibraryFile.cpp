@@ -1,5 +1,6 @@
 #include <VellarkDomain/Documents/Library/LibraryFile.hpp>
 #include <VellarkFoundation/Files/AtomicFile.hpp>
+#include <VellarkFoundation/Files/FileTransfer.hpp>
 #include <VellarkFoundation/Identifiers/UUID.hpp>
 #include <VellarkFoundation/Records/RecordReader.hpp>
 #include <VellarkFoundation/Records/RecordWriter.hpp>
@@ -24,11 +25,7 @@ constexpr mode_t ownerOnly = 0600;
 constexpr mode_t permissionBits = 0777;
 
 Stamp stampOf(const struct stat& status) {
-#ifdef __APPLE__
-    const timespec& modified = status.st_mtimespec;
-#else
-    const timespec& modified = status.st_mtim;
-#endif
+    const timespec modified = FileTransfer::modificationTime(status);
     return {.device = static_cast<std::uint64_t>(status.st_dev),
             .inode = static_cast<std::uint64_t>(status.st_ino),
             .byteCount = static_cast<std::int64_t>(status.st_size),
@@ -62,11 +59,10 @@ Result<FileText, LibraryFileError> readText(const std::string& path) {
     const auto size = static_cast<std::size_t>(status.st_size);
     FileText result{.bytes = std::make_unique_for_overwrite<char[]>(size), .stamp = stampOf(status)};
     while (result.length < size) {
-        const ssize_t count = ::read(file.get(), result.bytes.get() + result.length, size - result.length);
-        if (count < 0 && errno == EINTR) continue;
-        if (count < 0) return systemFailure(Reason::unreadable, errno);
-        if (count == 0) break;
-        result.length += static_cast<std::size_t>(count);
+        const auto count = FileTransfer::read(file.get(), result.bytes.get() + result.length, size - result.length);
+        if (!count) return systemFailure(Reason::unreadable, errno);
+        if (*count == 0) break;
+        result.length += *count;
     }
     // Where another program cut it meanwhile it is shorter: then it is damaged, and said to be.
     return result;

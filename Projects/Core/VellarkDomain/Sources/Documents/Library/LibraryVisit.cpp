@@ -1,33 +1,19 @@
 #include <VellarkDomain/Documents/Library/LibraryFile.hpp>
 #include <VellarkFoundation/Files/FileDescriptor.hpp>
+#include <VellarkFoundation/Files/FileTransfer.hpp>
 #include <VellarkFoundation/JSON/JSONWindow.hpp>
 #include <VellarkFoundation/Records/DirectRecordReader.hpp>
 
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
-
-#include <cerrno>
 
 namespace vellark {
-
-namespace {
-
-std::optional<std::size_t> readSome(const FileDescriptor& file, char* place, std::size_t room) {
-    for (;;) {
-        const ssize_t count = ::read(file.get(), place, room);
-        if (count >= 0) return static_cast<std::size_t>(count);
-        if (errno != EINTR) return std::nullopt;
-    }
-}
-
-}  // namespace
 
 bool LibraryFile::visit(const std::string& path, const std::function<void(const DocumentRecord&)>& visitor) {
     const FileDescriptor file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     struct stat status {};
     if (!file.isOpen() || ::fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode)) return false;
-    JSONWindow window([&file](char* place, std::size_t room) { return readSome(file, place, room); });
+    JSONWindow window([&file](char* place, std::size_t room) { return FileTransfer::read(file.get(), place, room); });
     bool hasMore = false;
     const auto head = [&hasMore](JSONCursor& cursor) {
         std::int64_t version = 0;
