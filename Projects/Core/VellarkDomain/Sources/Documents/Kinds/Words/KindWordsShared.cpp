@@ -23,7 +23,8 @@ constexpr auto rows = std::to_array<Shared>({
     {.kinds = anyOf<report, research>,
      .names = "분석, 평가, 비교, 비교표, 인사이트, 검토 보고서, 分析, 評価, 评估, 評估, 比較, 对比, 對比, "
               "インサイト, analysis, analyses, assessment, evaluation, insight, deep dive, benchmark, 白皮书, "
-              "白皮書, white paper, whitepaper, 백서, 白書",
+              "白皮書, white paper, whitepaper, 백서, 白書, 경과 보고, 情况说明, 项目总结, 季度总结, 年度总结, "
+              "月度总结, 阶段总结, 工作總結, 年度總結",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<report, codeReview, essay>,
@@ -32,12 +33,15 @@ constexpr auto rows = std::to_array<Shared>({
      .cues = ""},
     {.kinds = anyOf<prd, plan, design>,
      .names = "기획, 브리프, brief, 企画, 策划, 策劃, ブリーフ, コンセプト, 企划书, 企劃書, 策划案, 策划书, "
-              "企画案, 企划案, 企劃案",
+              "企画案, 企划案, 企劃案, 요구사항 정의, product vision, feature definition, プロダクト 要求書, "
+              "企画 概要書",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<story, script, userStories>,
      .names = "스토리, 시나리오, story, stories, ストーリー, シナリオ, 시놉시스, 줄거리, 세계관, 캐릭터 설정, "
-              "synopsis, worldbuilding, character profile, あらすじ, プロット, 世界観, 剧情, 世界观, 人物小传",
+              "synopsis, worldbuilding, character profile, あらすじ, プロット, 世界観, 剧情, 世界观, 人物小传, "
+              "콩트, 팬픽, 우화, 동시, plot outline, character sheet, haiku, 小说大纲, 人物设定, 寓言, "
+              "剧情大纲, 同人文, 登場人物表, 俳句, 二次創作, 昔話",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<exercises, quiz, bugReport>,
@@ -45,7 +49,8 @@ constexpr auto rows = std::to_array<Shared>({
               "practice question, question bank, review question, 練習 問題, 演習 問題, 過去問, 確認 問題, "
               "練習題, 练习题, 练习卷, 練習卷, 真题, 真題, 课后题, 思考题, 题库, 題庫, 章末問題, 练习, 练习册, "
               "習題, 練習冊, 練習, 課題, worksheet, problem set, drill, 연습 문제, 문제지, 예제, "
-              "練習 プリント, 习题集, 習題集",
+              "練習 プリント, 习题集, 習題集, 워크시트, 예상 문제, 문제은행, practice sheet, 应用题, 應用題, "
+              "演習, 計算 プリント, 例題, 演習 課題",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<learning, lectureNotes>,
@@ -53,19 +58,25 @@ constexpr auto rows = std::to_array<Shared>({
               "수업 자료, 강의 슬라이드, 유인물, lecture slide, lecture material, class material, handout, "
               "講義資料, 授業資料, 課件, 课件, 配布資料, 講義, 교재, 교육 자료, 강의안, 학습지, "
               "course material, training material, 研修 資料, 培训材料, 培训资料, 教材, 学案, 學案, 说课稿, "
-              "教学方案, 教學方案, 课程, 課程, 教學計畫, 授業案, 講座, textbook, workbook",
+              "教学方案, 教學方案, 课程, 課程, 教學計畫, 授業案, 講座, textbook, workbook, 활동지, "
+              "교육 프로그램, 실러버스, learning plan, teaching note, workshop outline, training manual, "
+              "課程大綱, 学习手册, 讲师手册, 单元设计, 備課筆記, 备课笔记, 培训方案, 教学进度表, "
+              "教育 プログラム, 単元 計画, 研修 プログラム, 授業 プリント",
      .generics = "자료, materials, material, resources, resource, 資料, 资料, 素材",
      .cues = "과외, 부트캠프, 워크숍 자료, bootcamp, tutoring, 研修, 培训, 培訓"},
     {.kinds = anyOf<design, designDoc>,
      .names = "design, 设计, 도면, drawing, 図面, 图纸, 圖紙, 原型, 原型设计, 设计图, 設計圖, 效果图, 版式, "
               "介面設計, 交互设计, 交互設計, 视觉设计, 視覺設計, ラフ案, 画面 イメージ, prototype, layout, "
               "sitemap, user flow, journey map, 레이아웃, 프로토타입, 사용자 여정, 유저 플로우, プロトタイプ, "
-              "原型图, 原型圖",
+              "原型图, 原型圖, 스케치, 무드보드, 화면 흐름도, 여정 지도, sketch, sketches, logo concept, "
+              "交互稿, 草图, 草圖, 故事板, 情绪板, ロゴ案, ムード ボード, 完成 予想図, "
+              "カスタマー ジャーニー マップ",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<notice, guide>,
      .names = "안내, 이용 안내, 案内, ご案内, 说明, 説明, 說明, 안내 사항, 案内文, 须知, 須知, 温馨提示, 公示, "
-              "通告, お願い, 通知書, 募集案内, 안내문, advisory, reminder",
+              "通告, お願い, 通知書, 募集案内, 안내문, advisory, reminder, 통지문, 협조문, 전달 사항, "
+              "학습 안내, 告家长书, 公函, 告知文, 案内状, 連絡 事項, 挨拶状, 講座 案内",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<plan, checklist, userStories>,
@@ -73,7 +84,9 @@ constexpr auto rows = std::to_array<Shared>({
               "action item, バックログ, タスク, 任务, 任務, 待办, 待辦, timeline, gantt chart, wbs, "
               "work breakdown structure, 时间表, 時間表, 进度表, 進度表, 日程表, 排期表, 排期, 排程表, 排程, "
               "工作安排, 活动安排, ガントチャート, 進行表, 甘特图, 甘特圖, 日程, calendar, 스케줄, 予定表, "
-              "工程表",
+              "工程表, 근무표, 스케줄표, 액션 플랜, 마스터 플랜, 세부 추진 계획, shift schedule, 推进表, "
+              "值班表, 时间安排, 日历, 排班表, 应急预案, 年間予定, シフト表, アクション プラン, 時間割, "
+              "当番表, マイルストーン",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<finance, report>,
@@ -84,7 +97,11 @@ constexpr auto rows = std::to_array<Shared>({
               "balance sheet, income statement, cash flow, profit and loss, p l, expense report, forecast, "
               "cost breakdown, 決算書, 収支 報告書, 損益 計算書, 貸借対照表, 财务报表, 財務報表, 资产负债表, "
               "資產負債表, 利润表, 損益表, 现金流量表, 收支表, 费用明细, 決算, 决算, 结算单, 結算單, 工资表, "
-              "薪資表, 对账单, 對帳單, 精算書, 明細書, 資金繰り表, financial plan, financial model, 재무 계획",
+              "薪資表, 对账单, 對帳單, 精算書, 明細書, 資金繰り表, financial plan, financial model, 재무 계획, "
+              "경비 내역, 회비 내역, 거래 내역, 매출 현황, 원가 계산서, 자금 계획, 발주서, tax return, "
+              "bank statement, billing summary, pay stub, financial projection, credit note, 工资条, 收支明细, "
+              "估价单, 成本核算表, 付款申请单, 采购订单, 流水账, 记账本, 予算書, 収支表, 発注書, 給与明細, "
+              "納品書, 売上 予測, 振込 依頼書, 会計 報告, 収支 計画, 経費 精算, 決算 報告",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<businessPlan, presentation, sales>,
@@ -102,7 +119,9 @@ constexpr auto rows = std::to_array<Shared>({
               "暗記 ノート, til, learning log, learning note, 개념 정리, 핵심 정리, 요점 정리, 요약 노트, "
               "배운 내용, 知识点, 复习提纲, 複習提綱, 중간고사 정리, 기말고사 정리, 시험 정리, "
               "중간고사 요약 정리, 기말고사 요약 정리, 시험 요약 정리, 중간고사 대비, 기말고사 대비, "
-              "시험 범위 정리",
+              "시험 범위 정리, 암기 노트, 마인드맵, 공식 정리, 용어 정리, 핵심 요약, mind map, concept map, "
+              "cheat note, 考试重点, 思维导图, 心智圖, 公式汇总, 自学笔记, 考研笔记, 試験 対策, 公式集, "
+              "用語集, マインド マップ, テスト 対策",
      .generics = "",
      .cues = "시험, 중간고사, 기말고사, 중간, 기말, 단원, 수학, 영어, 국어, 과학, 물리, 화학, 생물, 지구과학, "
              "한국사, 세계사, 역사, 사회, 경제학, 심리학, 통계학, 미적분, 선형대수, 문법, 영문법, 단어, 어휘, 한자, "
@@ -120,7 +139,9 @@ constexpr auto rows = std::to_array<Shared>({
              "データ構造, ネットワーク, 算法, 数据结构, 数據結構, 操作系统, 机器学习, 深度学习, 機械学習"},
     {.kinds = anyOf<memo, journal>,
      .names = "brainstorm, brainstorming, brain dump, 생각 정리, 便条, 便條, 随手记, 灵感, 头脑风暴, 走り書き, "
-              "覚え書き, 备忘, 備忘錄, アイデア, 伝言メモ, idea, 아이디어, 아이디어 노트, 便签, 便簽, 備忘録",
+              "覚え書き, 备忘, 備忘錄, アイデア, 伝言メモ, idea, 아이디어, 아이디어 노트, 便签, 便簽, 備忘録, "
+              "낙서, 끄적임, scratchpad, jottings, sticky note, note to self, 想法, 頭腦風暴, 随记, ネタ帳, "
+              "ひらめき",
      .generics = "정리, 정리본, 요약, 요약본, 요약문, 요약 정리, 초고, 초벌, 의견, 노트, 기록, 기록지, 기록물, "
                  "결과, 내용, summary, summaries, notes, note, recap, takeaways, takeaway, records, record, "
                  "findings, variants, january, february, march, april, may, june, july, august, september, "
@@ -142,7 +163,7 @@ constexpr auto rows = std::to_array<Shared>({
                  "januar, februar, märz, mai, juni, juli, oktober, dezember, janvier, février, mars, avril, juin, "
                  "juillet, août, septembre, octobre, novembre, décembre, enero, febrero, marzo, abril, mayo, "
                  "junio, julio, agosto, septiembre, octubre, noviembre, diciembre, kapitel, chapitre, capítulo, "
-                 "tema, kw, semaine, semana, folge, ausgabe, teil, épisode, episodio",
+                 "tema, kw, semaine, semana, folge, ausgabe, teil, épisode, episodio, 文面, 図, 文, 用紙, 文言",
      .cues = ""},
     {.kinds = anyOf<journal, changelog>,
      .names = "일지, 작업 일지, 개발 일지, 운동 일지, 실험 일지, 연구 일지, 작업 로그, work log, dev log, "
@@ -150,28 +171,34 @@ constexpr auto rows = std::to_array<Shared>({
      .generics = "로그, logs, log, ログ",
      .cues = ""},
     {.kinds = anyOf<meetingNotes, retrospective>,
-     .names = "",
+     .names = "협의록, 스크럼 기록, 회의 결과, discussion note, weekly meeting, meeting outcome, 打合せ 記録, "
+              "座谈会记录, 会议决议, 会议备忘, 晨会记录, 周会纪要, 面談 記録, 会議 次第, 定例 メモ, 面談 メモ",
      .generics = "",
      .cues = "워크숍, 워크샵, 원온원, 데일리, 싱크, 타운홀, 정례 회의, 팀 미팅, 팀 회의, 임원 회의, 전체 회의, "
              "정기 회의, 이사회, 면접, workshop, town hall, all hands, check in, offsite, huddle, catch up, debrief, "
              "ワークショップ, 朝会, 定例, 研讨会, 研討會, 例会, 周会"},
     {.kinds = anyOf<blogPost, socialPost, essay>,
      .names = "포스트, 게시글, 스레드, thread, スレッド, 후기, 체험기, 사용기, 방문기, 기고, post, write up, "
-              "writeup, 記事, 文章, 帖子, 体験記, 기사, 아티클, 포스팅, 블로그 포스트, 体験談, 博文, listicle",
+              "writeup, 記事, 文章, 帖子, 体験記, 기사, 아티클, 포스팅, 블로그 포스트, 体験談, 博文, listicle, "
+              "리뷰 글, 매거진 글, 经验贴, 社媒帖子",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<data, checklist>,
      .names = "목록, 리스트, 현황표, 목록표, list, 一覧, 一覧表, リスト, 列表, 名单, 名單, 명단, 명부, "
               "재고 현황, 관리 대장, roster, inventory, 名簿, 名册, 花名册, 名錄, 通讯录, 通訊錄, 台账, 台帳, "
               "明细表, 明細表, 明细, 汇总表, 彙總表, 数据表, 數據表, 集計表, 住所録, 通訊録, spreadsheet, "
-              "주소록, 연락처, 집계표",
+              "주소록, 연락처, 집계표, 출석부, 통계표, 로우 데이터, 데이터시트, 집계 자료, attendance sheet, "
+              "survey response, sales figure, measurement, 登记表, 登記表, 清册, 资料库, 資料庫, 成绩单, "
+              "考勤表, 签到表, 點名表, 數據, 在庫表, 出席簿, 成績表",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<guide, learning>,
      .names = "튜토리얼, 치트 시트, 사용법, 사용 방법, cheat sheet, cheatsheet, quick start, quickstart, "
               "getting started, walkthrough, チュートリアル, やり方, 始め方, 早見表, 教程, 教學, 指引, "
               "操作步骤, 操作步驟, 帮助文档, 新手入门, playbook, handbook, 방법, 설치 방법, 手引き, "
-              "ハンド ブック, 使い方, 書き方",
+              "ハンド ブック, 使い方, 書き方, 가이드북, 작업 절차, 표준 작업 절차서, 팁 모음, 핸드북, "
+              "길라잡이, 使用說明, 作业指导书, 常用命令, 最佳实践, 快速入门, 技巧汇总, 注意事项, 注意事項, "
+              "業務 フロー, 早わかり, 虎の巻, 引継書, 作業 要領",
      .generics = "문서, 문서화, 서류, 개요, 소개, 입문, 기초, documents, document, documentation, doc, docs, "
                  "overview, introduction, intro, basics, fundamentals, 文書, ドキュメント, 概要, 紹介, 入門, 基礎, "
                  "文档, 文檔, 文件, 概述, 简介, 簡介, 介绍, 介紹, 入门, 基础",
