@@ -12,21 +12,20 @@ namespace {
 constexpr Layered words[] = {
     {.kind = DocumentKind::prd,
      .nouns = "expression de besoins, expression des besoins, exigences produit, note de cadrage, "
-              "fiche projet, brief produit, fiche de cadrage",
+              "fiche projet, brief produit, fiche de cadrage, expression de besoin, cadrage fonctionnel",
      .weak = ""},
     {.kind = DocumentKind::spec,
-     .nouns = "cahier des charges, cahiers des charges, spécification, spécifications, exigences, fiche "
-              "technique, dossier technique, règles de gestion, besoins fonctionnels",
+     .nouns = "cahier des charges, spécification, spécifications, exigences, fiche technique, "
+              "dossier technique, règles de gestion, besoins fonctionnels",
      .weak = "besoins"},
     {.kind = DocumentKind::plan,
-     .nouns = "plan, plans, plan d'action, plan projet, plan stratégique, plan marketing, planning, "
-              "calendrier, feuille de route, feuilles de route, stratégie, stratégies, planification, "
-              "rétroplanning, roadmap, emploi du temps, plane, échéancier",
+     .nouns = "plan, plan d'action, plan projet, plan stratégique, plan marketing, planning, calendrier, "
+              "feuille de route, stratégie, stratégies, planification, rétroplanning, roadmap, "
+              "emploi du temps, plane, échéancier",
      .weak = "programme, programmes"},
     {.kind = DocumentKind::userStories,
-     .nouns = "récit utilisateur, récits utilisateurs, user story, user stories, cas d'utilisation, cas "
-              "d'usage, critères d'acceptation, scénario utilisateur, backlog produit, récits "
-              "utilisateur",
+     .nouns = "récits utilisateurs, user story, user stories, cas d'utilisation, cas d'usage, "
+              "critères d'acceptation, scénario utilisateur, backlog produit, récits utilisateur",
      .weak = ""},
     {.kind = DocumentKind::meetingNotes,
      .nouns = "compte rendu, comptes rendus, procès-verbal, procès-verbaux, cr de réunion, cr réunion, "
@@ -40,9 +39,9 @@ constexpr Layered words[] = {
               "point d'étape",
      .weak = "suivi, suivis"},
     {.kind = DocumentKind::research,
-     .nouns = "étude, études, recherche, recherches, enquête, enquêtes, sondage, analyse concurrentielle, "
-              "analyse de marché, veille, état de l'art, revue de littérature, revue de la littérature, "
-              "questionnaire, questionnaires, benchmark concurrentiel, synthèse des entretiens",
+     .nouns = "étude, études, recherche, enquête, sondage, analyse concurrentielle, analyse de marché, veille, "
+              "état de l'art, revue de littérature, revue de la littérature, questionnaire, "
+              "benchmark concurrentiel, synthèse des entretiens",
      .weak = ""},
     {.kind = DocumentKind::retrospective,
      .nouns = "rétrospective, rétro, retour d'expérience, retours d'expérience, bilan de projet, bilan "
@@ -50,44 +49,41 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::checklist,
      .nouns = "liste de contrôle, liste de vérification, liste de tâches, liste des tâches, liste de courses, "
-              "liste de choses à faire, choses à faire, à faire, checklist, checklists, check-list, "
-              "points à vérifier, tâches à faire, liste des courses",
+              "choses à faire, à faire, checklist, checklists, check-list, points à vérifier, liste des courses",
      .weak = "tâches, liste, listes"},
     {.kind = DocumentKind::proposal,
-     .nouns = "proposition, propositions, recommandation, recommandations, préconisations, "
-              "demande de subvention, demande de financement, réponse à appel d'offres, avant-projet, "
-              "projet de recherche, appel à projets",
+     .nouns = "proposition, propositions, recommandation, recommandations, demande de subvention, "
+              "demande de financement, réponse à appel d'offres, avant-projet, projet de recherche, "
+              "appel à projets",
      .weak = ""},
     {.kind = DocumentKind::memo,
-     .nouns = "note de service, notes de service, note interne, notes internes, mémo, mémos, pense-bête, "
-              "notes personnelles, bloc-notes, notes en vrac",
+     .nouns = "note de service, notes de service, note interne, mémo, pense-bête, notes personnelles, "
+              "bloc-notes, notes en vrac, idées en vrac, notes volantes",
      .weak = ""},
     {.kind = DocumentKind::presentation,
      .nouns = "présentation, présentations, diaporama, support de présentation, diapositives, exposé, "
-              "soutenance, support de réunion, diaporamas",
+              "soutenance, support de réunion",
      .weak = ""},
     {.kind = DocumentKind::designDoc,
      .nouns = "document de conception, dossier de conception, conception, architecture technique, "
-              "architecture logicielle, architecture applicative, dossier d'architecture, document d'architecture, "
-              "schéma d'architecture, décision d'architecture, modèle de données, schéma de base de données, "
-              "choix techniques",
+              "architecture logicielle, architecture applicative, dossier d'architecture, "
+              "document d'architecture, schéma d'architecture, décision d'architecture, modèle de données, "
+              "schéma de base de données, choix techniques, diagramme de séquence",
      .weak = ""},
     {.kind = DocumentKind::apiDoc,
      .nouns = "documentation api, documentation d'api, documentation de l'api, référence api, référence de l'api, "
               "spécification api, spécification d'api, contrat d'interface, doc api",
      .weak = ""},
     {.kind = DocumentKind::testPlan,
-     .nouns = "plan de test, plans de test, plan de tests, cas de test, cas de tests, stratégie de "
-              "test, cahier de recette, cahier de tests, plan de recette, scénario de test, scénarios "
-              "de test, recette fonctionnelle",
+     .nouns = "plan de test, plan de tests, cas de test, stratégie de test, cahier de recette, "
+              "cahier de tests, plan de recette, scénario de test, scénarios de test, jeu d'essai, "
+              "pv de recette",
      .weak = ""},
     {.kind = DocumentKind::bugReport,
-     .nouns = "rapport de bug, rapport d'anomalie, fiche d'anomalie, signalement de bug, rapport "
-              "d'erreur, anomalie, anomalies, bogue",
+     .nouns = "rapport de bug, rapport d'anomalie, fiche d'anomalie, signalement de bug, rapport d'erreur, "
+              "anomalie, bogue, ticket d'incident",
      .weak = ""},
-    {.kind = DocumentKind::codeReview,
-     .nouns = "revue de code, revues de code, relecture de code, audit de code",
-     .weak = ""},
+    {.kind = DocumentKind::codeReview, .nouns = "revue de code, relecture de code, audit de code", .weak = ""},
     {.kind = DocumentKind::postmortem,
      .nouns = "post-mortem, postmortem, rapport d'incident, analyse d'incident, analyse des causes, "
               "analyse de cause racine, compte rendu d'incident, rapport de panne, analyse "
@@ -95,20 +91,19 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::changelog,
      .nouns = "journal des modifications, journal des changements, notes de version, note de version, "
-              "notes de mise à jour, historique des versions, historique des modifications, liste des changements, "
-              "nouveautés, changelog, release notes",
+              "notes de mise à jour, historique des versions, historique des modifications, nouveautés, "
+              "changelog, release notes",
      .weak = ""},
     {.kind = DocumentKind::guide,
-     .nouns = "guide, guides, manuel, manuels, mode d'emploi, tutoriel, tutoriels, tuto, procédure, "
-              "procédures, notice d'utilisation, notice explicative, guide utilisateur, guide "
-              "d'installation, guide pratique, fiche pratique, livret d'accueil, consignes, prise en "
-              "main, mode opératoire, bonnes pratiques, documentation technique, documentation "
-              "utilisateur, guide d'accueil",
+     .nouns = "guide, manuel, manuels, mode d'emploi, tutoriel, tuto, procédure, procédures, "
+              "notice d'utilisation, notice explicative, guide utilisateur, guide d'installation, "
+              "guide pratique, fiche pratique, livret d'accueil, consignes, prise en main, mode opératoire, "
+              "bonnes pratiques, documentation technique, documentation utilisateur, guide d'accueil, vademecum",
      .weak = "méthode, démarche, étapes"},
     {.kind = DocumentKind::data,
-     .nouns = "données, jeu de données, jeux de données, statistiques, chiffres clés, indicateurs, "
-              "tableau de données, tableau récapitulatif, tableau de suivi, liste des participants, "
-              "liste des clients, annuaire, base de données",
+     .nouns = "données, jeu de données, statistiques, chiffres clés, indicateurs, tableau de données, "
+              "tableau récapitulatif, tableau de suivi, liste des participants, liste des clients, annuaire, "
+              "base de données, inventaire, registre, fichier clients",
      .weak = ""},
     {.kind = DocumentKind::prompt,
      .nouns = "prompt, prompts, prompt système, instructions système, bibliothèque de prompts, "
@@ -120,29 +115,29 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::designSystem,
      .nouns = "système de design, design system, charte graphique, guide de style, identité visuelle, "
-              "charte de marque, bibliothèque de composants, palette de couleurs, charte éditoriale",
+              "bibliothèque de composants, palette de couleurs, charte éditoriale",
      .weak = ""},
     {.kind = DocumentKind::marketingCopy,
      .nouns = "texte publicitaire, accroche, accroches, slogan, slogans, page de vente, publicité, "
-              "annonce publicitaire, dépliant, dépliants, description produit, fiche produit, fiches produit, "
-              "texte promotionnel, textes publicitaires, affiche",
+              "annonce publicitaire, dépliant, description produit, fiche produit, texte promotionnel, "
+              "textes publicitaires, affiche, prospectus",
      .weak = ""},
     {.kind = DocumentKind::sales,
-     .nouns = "offre, offres, argumentaire, "
-              "présentation commerciale, plaquette commerciale, catalogue, catalogues, script de vente, cas client, "
-              "grille tarifaire",
+     .nouns = "offre, argumentaire, présentation commerciale, plaquette commerciale, catalogue, "
+              "script de vente, cas client, grille tarifaire, script d'appel, dossier commercial, tarifs, "
+              "témoignage client",
      .weak = ""},
     {.kind = DocumentKind::pressRelease,
      .nouns = "communiqué de presse, communiqué, communiqués, dossier de presse",
      .weak = ""},
     {.kind = DocumentKind::newsletter,
      .nouns = "newsletter, newsletters, lettre d'information, lettres d'information, infolettre, bulletin, "
-              "journal interne, bulletin municipal",
+              "journal interne, bulletin municipal, gazette, bulletin d'information",
      .weak = ""},
     {.kind = DocumentKind::socialPost,
-     .nouns = "publication linkedin, publications linkedin, publication instagram, publication "
-              "facebook, post linkedin, post instagram, post facebook, publication réseaux sociaux, "
-              "publications réseaux sociaux, tweet, légende instagram, fil twitter",
+     .nouns = "publication linkedin, publication instagram, publication facebook, post linkedin, "
+              "post instagram, post facebook, publication réseaux sociaux, tweet, légende instagram, "
+              "fil twitter",
      .weak = ""},
     {.kind = DocumentKind::businessPlan,
      .nouns = "plan d'affaires, business plan, modèle économique, modèle d'affaires, plan de "
@@ -153,22 +148,22 @@ constexpr Layered words[] = {
               "bilan financier, compte de résultat, comptes annuels, plan de financement, plan de trésorerie, "
               "note de frais, notes de frais, état financier, états financiers, rapport financier, "
               "bon de commande, suivi budgétaire, fiche de paie, bulletin de paie, relevé de compte, "
-              "quittance, bon de livraison",
+              "quittance, bon de livraison, reçu, déclaration fiscale, relevé bancaire",
      .weak = ""},
     {.kind = DocumentKind::legal,
-     .nouns = "contrat, contrats, convention, conventions, accord, conditions générales, conditions "
-              "d'utilisation, mentions légales, politique de confidentialité, statuts, bail, avenant, "
-              "procuration, mise en demeure, licence, attestation, attestations, protocole d'accord, "
-              "cgv, cgu, projet de loi",
+     .nouns = "contrat, contrats, convention, conventions, accord, conditions générales, "
+              "conditions d'utilisation, mentions légales, politique de confidentialité, statuts, bail, "
+              "avenant, procuration, mise en demeure, licence, attestation, attestations, protocole d'accord, "
+              "cgv, cgu, projet de loi, testament, plainte, assignation, compromis de vente",
      .weak = ""},
     {.kind = DocumentKind::policy,
-     .nouns = "politique, politiques, règlement, règlements, charte, chartes, code de conduite, directive, règles, "
-              "consignes de sécurité, lignes directrices, protocole sanitaire",
+     .nouns = "politique, politiques, règlement, règlements, charte, chartes, code de conduite, directive, "
+              "règles, consignes de sécurité, lignes directrices, protocole sanitaire, normes",
      .weak = ""},
     {.kind = DocumentKind::notice,
-     .nouns = "annonce, annonces, avis, note d'information, circulaire, circulaires, convocation, "
-              "communication interne, information aux parents, lettre aux parents, appel à "
-              "candidatures, faire-part, lettre d'invitation",
+     .nouns = "annonce, annonces, avis, note d'information, circulaire, convocation, communication interne, "
+              "information aux parents, lettre aux parents, appel à candidatures, faire-part, "
+              "lettre d'invitation, rappel",
      .weak = ""},
     {.kind = DocumentKind::jobPosting,
      .nouns = "offre d'emploi, offres d'emploi, annonce d'emploi, fiche de poste, fiches de poste, offre de stage, "
@@ -178,14 +173,15 @@ constexpr Layered words[] = {
     {.kind = DocumentKind::email,
      .nouns = "courriel, courriels, lettre, courrier, mail de relance, e-mail de relance, "
               "mail de remerciement, e-mail de bienvenue, mail de bienvenue, mail de prospection, "
-              "e-mail de prospection, mail de confirmation, réponse au client, mail aux, mail d'excuses",
+              "e-mail de prospection, mail de confirmation, réponse au client, mail aux, mail d'excuses, "
+              "relance client",
      .weak = "mail, mails, e-mail, e-mails"},
     {.kind = DocumentKind::faq,
-     .nouns = "foire aux questions, questions fréquentes, faq, faqs, questions fréquemment posées, "
+     .nouns = "foire aux questions, questions fréquentes, faq, questions fréquemment posées, "
               "questions-réponses, questions et réponses, article d'aide",
      .weak = ""},
     {.kind = DocumentKind::blogPost,
-     .nouns = "article de blog, article, articles, billet, billets, témoignage, témoignages, reportage, "
+     .nouns = "article de blog, article, articles, billet, témoignage, témoignages, reportage, "
               "récit de voyage, article blog",
      .weak = ""},
     {.kind = DocumentKind::script,
@@ -193,14 +189,13 @@ constexpr Layered words[] = {
               "sous-titres, dialogue, dialogues, allocution, storyboard, éloge funèbre, script podcast",
      .weak = ""},
     {.kind = DocumentKind::essay,
-     .nouns = "essai, essais, tribune, tribunes, éditorial, édito, chronique, critique de film, "
-              "critique littéraire, commentaire de texte, billet d'humeur, rédaction, réflexion, "
-              "réflexions, point de vue, dissertation de philosophie, commentaire composé, critique du "
-              "film",
+     .nouns = "essai, essais, tribune, éditorial, édito, chronique, critique de film, critique littéraire, "
+              "commentaire de texte, billet d'humeur, rédaction, réflexion, point de vue, "
+              "dissertation de philosophie, commentaire composé, critique du film",
      .weak = ""},
     {.kind = DocumentKind::story,
-     .nouns = "roman, conte, nouvelle littéraire, recueil de nouvelles, histoire courte, histoire pour "
-              "enfants, poème, poèmes, récit, récits, fable, paroles de chanson",
+     .nouns = "roman, conte, nouvelle littéraire, recueil de nouvelles, histoire courte, "
+              "histoire pour enfants, poème, poèmes, récit, récits, fable, paroles",
      .weak = ""},
     {.kind = DocumentKind::translation,
      .nouns = "traduction, traductions, version française, version anglaise, version bilingue, texte traduit",
@@ -208,15 +203,16 @@ constexpr Layered words[] = {
     {.kind = DocumentKind::learning,
      .nouns = "cours, support de cours, supports de cours, plan de cours, programme de formation, "
               "support de formation, plan de formation, module de formation, formation, formations, "
-              "séquence pédagogique, fiche pédagogique, fiche de préparation, leçon, leçons, manuel scolaire",
+              "séquence pédagogique, fiche pédagogique, fiche de préparation, leçon, leçons, manuel scolaire, "
+              "livret de formation, progression annuelle",
      .weak = ""},
     {.kind = DocumentKind::lectureNotes,
      .nouns = "notes de cours, prise de notes, notes de conférence, notes de séminaire, polycopié",
      .weak = ""},
     {.kind = DocumentKind::studyNotes,
      .nouns = "fiche de révision, fiches de révision, révisions, fiche de synthèse, fiches de synthèse, "
-              "résumé de cours, aide-mémoire, fiche de cours, fiches de cours, vocabulaire, notes de "
-              "révision, résumé de chapitre",
+              "résumé de cours, aide-mémoire, fiche de cours, fiches de cours, vocabulaire, notes de révision, "
+              "résumé de chapitre, carte mentale",
      .weak = ""},
     {.kind = DocumentKind::readingNotes,
      .nouns = "fiche de lecture, fiches de lecture, notes de lecture, note de lecture, compte rendu de lecture, "
@@ -229,7 +225,7 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::solutions,
      .nouns = "corrigé, corrigés, solution des exercices, éléments de correction, correction du, "
-              "correction des, correction exercices, solutions des exercices",
+              "correction des, correction exercices, solutions des exercices, réponses, barème",
      .weak = ""},
     {.kind = DocumentKind::quiz,
      .nouns = "qcm, sujet d'examen, devoir surveillé, interrogation, interro, contrôle de connaissances, "
@@ -254,12 +250,12 @@ constexpr Layered words[] = {
               "candidatures, profil professionnel, dossier de compétences, lettre de recommandation, mon cv",
      .weak = "cv"},
     {.kind = DocumentKind::travelPlan,
-     .nouns = "itinéraire, itinéraires, voyage, programme de voyage, plan de voyage, planning de "
-              "voyage, programme de visite, séjour, circuit touristique, programme week-end",
+     .nouns = "itinéraire, voyage, programme de voyage, plan de voyage, planning de voyage, "
+              "programme de visite, séjour, circuit touristique, programme week-end",
      .weak = ""},
     {.kind = DocumentKind::recipe,
      .nouns = "recette, recettes, carnet de recettes, fiche recette, menu de la semaine, menus de la semaine, "
-              "idées de repas",
+              "idées de repas, plan de repas",
      .weak = ""},
 };
 

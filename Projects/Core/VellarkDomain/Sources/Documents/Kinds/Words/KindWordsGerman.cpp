@@ -13,79 +13,72 @@ constexpr Layered words[] = {
      .nouns = "konzept, produktanforderungen, projektskizze, produktanforderungsdokument, produktbriefing",
      .weak = ""},
     {.kind = DocumentKind::spec,
-     .nouns = "spezifikation, spezifikationen, pflichtenheft, lastenheft, anforderungen, "
-              "anforderungskatalog, anforderungsanalyse, leistungsbeschreibung, funktionsbeschreibung, "
-              "fachkonzept, leistungsverzeichnis, datenblatt, anforderungsdokument",
+     .nouns = "spezifikation, pflichtenheft, lastenheft, anforderungen, anforderungskatalog, "
+              "anforderungsanalyse, leistungsbeschreibung, funktionsbeschreibung, fachkonzept, "
+              "leistungsverzeichnis, datenblatt, anforderungsdokument",
      .weak = ""},
     {.kind = DocumentKind::plan,
-     .nouns = "plan, pläne, zeitplan, terminplan, projektplan, aktionsplan, maßnahmenplan, wochenplan, "
-              "dienstplan, planung, strategie, roadmap, schichtplan, migrationsplan",
+     .nouns = "plan, zeitplan, terminplan, projektplan, aktionsplan, maßnahmenplan, wochenplan, dienstplan, "
+              "planung, strategie, roadmap, schichtplan, migrationsplan, strategiepapier",
      .weak = ""},
     {.kind = DocumentKind::userStories,
-     .nouns = "user story, user stories, nutzergeschichte, nutzergeschichten, anwendungsfall, anwendungsfälle, "
-              "akzeptanzkriterien",
+     .nouns = "user story, user stories, nutzergeschichte, anwendungsfall, anwendungsfälle, akzeptanzkriterien",
      .weak = ""},
     {.kind = DocumentKind::meetingNotes,
      .nouns = "protokoll, protokolle, besprechungsnotiz, besprechungsnotizen, gesprächsnotiz, "
               "gesprächsnotizen, niederschrift, tagesordnung, meeting-notizen",
      .weak = ""},
     {.kind = DocumentKind::report,
-     .nouns = "bericht, berichte, report, analyse, analysen, auswertung, auswertungen, gutachten, sachstand, "
-              "versuchsprotokoll",
+     .nouns = "bericht, report, analyse, auswertung, gutachten, sachstand, versuchsprotokoll",
      .weak = ""},
     {.kind = DocumentKind::research,
-     .nouns = "recherche, marktforschung, marktanalyse, wettbewerbsanalyse, umfrage, umfragen, studie, "
-              "studien, befragung, fragebogen, literaturübersicht, umfrageergebnisse",
+     .nouns = "recherche, marktforschung, marktanalyse, wettbewerbsanalyse, umfrage, studie, befragung, "
+              "fragebogen, literaturübersicht, umfrageergebnisse, interviewauswertung, zielgruppenanalyse",
      .weak = ""},
-    {.kind = DocumentKind::retrospective,
-     .nouns = "retrospektive, retrospektiven, rückblick, lessons learned, reflexion",
-     .weak = ""},
+    {.kind = DocumentKind::retrospective, .nouns = "retrospektive, rückblick, lessons learned, reflexion", .weak = ""},
     {.kind = DocumentKind::checklist,
-     .nouns = "checkliste, checklisten, aufgabenliste, to-do-liste, todoliste, einkaufsliste, "
-              "packliste, wunschliste",
+     .nouns = "checkliste, aufgabenliste, to-do-liste, todoliste, einkaufsliste, packliste, wunschliste, "
+              "prüfliste",
      .weak = "aufgaben"},
     {.kind = DocumentKind::proposal,
-     .nouns = "vorschlag, vorschläge, antrag, anträge, empfehlung, empfehlungen, entscheidungsvorlage, "
-              "beschlussvorlage",
+     .nouns = "vorschlag, antrag, empfehlung, entscheidungsvorlage, beschlussvorlage, ausschreibung",
      .weak = ""},
     {.kind = DocumentKind::memo, .nouns = "notiz, notizen, vermerk, memo an, notizzettel, ideensammlung", .weak = ""},
-    {.kind = DocumentKind::presentation,
-     .nouns = "präsentation, präsentationen, folien, vortrag, vorträge, referat, foliensatz",
-     .weak = ""},
+    {.kind = DocumentKind::presentation, .nouns = "präsentation, folien, vortrag, referat, foliensatz", .weak = ""},
     {.kind = DocumentKind::designDoc,
-     .nouns = "architektur, architekturkonzept, architekturentscheidung, technisches konzept, "
-              "feinkonzept, systementwurf, datenbankentwurf, datenmodell, datenbankschema, "
-              "klassendiagramm, berechtigungskonzept, architekturentwurf, architekturdokument, "
-              "technisches design, entwurfsdokument",
+     .nouns = "architektur, architekturkonzept, architekturentscheidung, technisches konzept, feinkonzept, "
+              "systementwurf, datenbankentwurf, datenmodell, datenbankschema, klassendiagramm, "
+              "berechtigungskonzept, architekturentwurf, architekturdokument, technisches design, "
+              "entwurfsdokument, ablaufdiagramm, grobkonzept",
      .weak = ""},
     {.kind = DocumentKind::apiDoc,
      .nouns = "api-dokumentation, api-referenz, api-spezifikation, schnittstellenbeschreibung, "
               "schnittstellendokumentation, schnittstellenspezifikation",
      .weak = ""},
     {.kind = DocumentKind::testPlan,
-     .nouns = "testplan, testpläne, testkonzept, testfall, testfälle, teststrategie, testprotokoll, "
-              "testszenario, prüfplan",
+     .nouns = "testplan, testkonzept, testfall, testfälle, teststrategie, testprotokoll, testszenario, "
+              "prüfplan, abnahmetest, testszenarien",
      .weak = ""},
     {.kind = DocumentKind::bugReport,
-     .nouns = "fehlerbericht, fehlermeldung, fehlerbeschreibung, bugreport, störungsmeldung",
+     .nouns = "fehlerbericht, fehlermeldung, fehlerbeschreibung, bugreport, störungsmeldung, fehlerliste",
      .weak = ""},
     {.kind = DocumentKind::codeReview, .nouns = "code review, code-überprüfung", .weak = ""},
     {.kind = DocumentKind::postmortem,
-     .nouns = "postmortem, störungsbericht, vorfallsbericht, ausfallbericht, incident-bericht, ursachenanalyse, "
-              "fehleranalyse",
+     .nouns = "postmortem, störungsbericht, vorfallsbericht, ausfallbericht, incident-bericht, "
+              "ursachenanalyse, fehleranalyse, unfallbericht",
      .weak = ""},
     {.kind = DocumentKind::changelog,
      .nouns = "changelog, release notes, änderungsprotokoll, änderungsverlauf, änderungshistorie, "
               "versionshinweise, versionshistorie, neuerungen",
      .weak = ""},
     {.kind = DocumentKind::guide,
-     .nouns = "anleitung, anleitungen, handbuch, handbücher, leitfaden, leitfäden, guide, einführung, "
-              "dokumentation, tutorial, tutorials, ratgeber, gebrauchsanweisung, arbeitsanweisung, "
-              "erste schritte, einarbeitungsplan",
+     .nouns = "anleitung, handbuch, leitfaden, guide, einführung, dokumentation, tutorial, ratgeber, "
+              "gebrauchsanweisung, arbeitsanweisung, erste schritte, einarbeitungsplan, verfahrensanweisung, "
+              "prozessbeschreibung",
      .weak = ""},
     {.kind = DocumentKind::data,
-     .nouns = "daten, datensatz, datensätze, tabelle, tabellen, statistik, statistiken, kennzahlen, "
-              "messprotokoll, messwerte, liste",
+     .nouns = "daten, datensatz, tabelle, statistik, statistiken, kennzahlen, messprotokoll, messwerte, liste, "
+              "inventar",
      .weak = ""},
     {.kind = DocumentKind::prompt, .nouns = "prompt, prompts, systemprompt, prompt-vorlage", .weak = ""},
     {.kind = DocumentKind::design,
@@ -96,16 +89,16 @@ constexpr Layered words[] = {
               "designrichtlinien, markenhandbuch",
      .weak = ""},
     {.kind = DocumentKind::marketingCopy,
-     .nouns = "werbetext, werbetexte, anzeigentext, slogan, produktbeschreibung, produkttext, "
-              "broschüre, broschüren, flyer, landingpage, anzeigentexte",
+     .nouns = "werbetext, werbetexte, anzeigentext, slogan, produktbeschreibung, produkttext, broschüre, "
+              "flyer, landingpage, anzeigentexte, faltblatt, verkaufstext",
      .weak = ""},
     {.kind = DocumentKind::sales,
-     .nouns = "angebot, angebote, verkaufsunterlagen, vertriebsunterlagen, vertriebspräsentation, "
-              "verkaufspräsentation, unternehmenspräsentation, produktkatalog, preisliste",
+     .nouns = "angebot, verkaufsunterlagen, vertriebsunterlagen, vertriebspräsentation, verkaufspräsentation, "
+              "unternehmenspräsentation, produktkatalog, preisliste, katalog",
      .weak = ""},
     {.kind = DocumentKind::pressRelease,
-     .nouns = "pressemitteilung, pressemitteilungen, pressemeldung, presseinformation, pressetext, "
-              "medienmitteilung, pressemappe, presseerklärung",
+     .nouns = "pressemitteilung, pressemeldung, presseinformation, pressetext, medienmitteilung, pressemappe, "
+              "presseerklärung",
      .weak = ""},
     {.kind = DocumentKind::newsletter,
      .nouns = "newsletter, rundbrief, infobrief, mitarbeiterzeitung, gemeindebrief",
@@ -115,102 +108,101 @@ constexpr Layered words[] = {
               "linkedin-post, instagram-beitrag, instagram-post, tweet, facebook-beitrag",
      .weak = ""},
     {.kind = DocumentKind::businessPlan,
-     .nouns = "geschäftsplan, businessplan, business plan, geschäftsmodell, geschäftskonzept, geschäftsidee",
+     .nouns = "geschäftsplan, businessplan, business plan, geschäftsmodell, geschäftskonzept, geschäftsidee, "
+              "gründungskonzept",
      .weak = ""},
     {.kind = DocumentKind::finance,
-     .nouns = "budget, budgetplan, finanzplan, kostenplan, haushaltsplan, rechnung, rechnungen, "
-              "abrechnung, kostenvoranschlag, jahresabschluss, bilanz, kalkulation, finanzbericht, "
-              "haushaltsbuch, steuererklärung, quittung, kostenaufstellung, budgetplanung, mahnung, "
-              "lieferschein",
+     .nouns = "budget, budgetplan, finanzplan, kostenplan, haushaltsplan, rechnung, rechnungen, abrechnung, "
+              "kostenvoranschlag, jahresabschluss, bilanz, kalkulation, finanzbericht, haushaltsbuch, "
+              "steuererklärung, quittung, kostenaufstellung, budgetplanung, mahnung, lieferschein, "
+              "kontoauszug, gutschrift, bestellung, kassenbuch",
      .weak = ""},
     {.kind = DocumentKind::legal,
-     .nouns = "vertrag, verträge, vereinbarung, vereinbarungen, agb, allgemeine geschäftsbedingungen, "
-              "nutzungsbedingungen, datenschutzerklärung, vollmacht, kündigung, lizenz, satzung, klage, "
-              "einverständniserklärung, widerspruch, übergabeprotokoll, abnahmeprotokoll, impressum, "
-              "bescheinigung",
+     .nouns = "vertrag, vereinbarung, agb, allgemeine geschäftsbedingungen, nutzungsbedingungen, "
+              "datenschutzerklärung, vollmacht, kündigung, lizenz, satzung, klage, einverständniserklärung, "
+              "widerspruch, übergabeprotokoll, abnahmeprotokoll, impressum, bescheinigung, abmahnung, "
+              "patientenverfügung, bürgschaft",
      .weak = ""},
     {.kind = DocumentKind::policy,
      .nouns = "richtlinie, richtlinien, leitlinie, leitlinien, regelung, regelungen, regeln, vorschrift, "
-              "vorschriften, hausordnung, geschäftsordnung, betriebsvereinbarung, verhaltenskodex, dienstanweisung, "
-              "leitbild, sicherheitskonzept, datenschutzkonzept, prüfungsordnung, schulordnung, verordnung, "
-              "hygienekonzept",
+              "vorschriften, hausordnung, geschäftsordnung, betriebsvereinbarung, verhaltenskodex, "
+              "dienstanweisung, leitbild, sicherheitskonzept, datenschutzkonzept, prüfungsordnung, "
+              "schulordnung, hygienekonzept, regelwerk",
      .weak = ""},
     {.kind = DocumentKind::notice,
-     .nouns = "mitteilung, mitteilungen, bekanntmachung, ankündigung, rundschreiben, einladung, "
-              "einladungen, hinweis, hinweise, aushang, elternbrief, merkblatt, informationsschreiben, "
-              "infoschreiben",
+     .nouns = "mitteilung, bekanntmachung, ankündigung, rundschreiben, einladung, hinweis, hinweise, aushang, "
+              "elternbrief, merkblatt, informationsschreiben, infoschreiben, benachrichtigung",
      .weak = ""},
     {.kind = DocumentKind::jobPosting,
-     .nouns = "stellenanzeige, stellenanzeigen, stellenausschreibung, stellenangebot, stellenangebote, "
-              "stellenbeschreibung, anforderungsprofil",
+     .nouns = "stellenanzeige, stellenausschreibung, stellenangebot, stellenbeschreibung, anforderungsprofil, "
+              "jobprofil",
      .weak = ""},
     {.kind = DocumentKind::email,
      .nouns = "geschäftsbrief, begleitschreiben, dankschreiben, kündigungsschreiben, antwortschreiben, "
               "beschwerdebrief, dankesmail, erinnerungsmail, einladungsmail, rundmail, willkommensmail, "
-              "mail an, dankesschreiben",
+              "mail an, anfrage",
      .weak = "mail, mails, e-mail"},
     {.kind = DocumentKind::faq,
-     .nouns = "häufige fragen, häufig gestellte fragen, faq, faqs, fragen und antworten, fragenkatalog",
+     .nouns = "häufige fragen, häufig gestellte fragen, faq, fragen und antworten, fragenkatalog",
      .weak = ""},
     {.kind = DocumentKind::blogPost,
-     .nouns = "blogbeitrag, blogbeiträge, blogeintrag, blogpost, gastbeitrag, artikel, erfahrungsbericht, "
-              "reisebericht, reportage",
+     .nouns = "blogbeitrag, blogeintrag, blogpost, gastbeitrag, artikel, erfahrungsbericht, reisebericht, "
+              "reportage",
      .weak = ""},
     {.kind = DocumentKind::script,
-     .nouns = "drehbuch, rede, reden, sprechtext, videoskript, theaterstück, untertitel, ansprache, laudatio, "
-              "grußwort, podcast-skript",
+     .nouns = "drehbuch, rede, sprechtext, videoskript, theaterstück, untertitel, ansprache, laudatio, "
+              "grußwort, podcast-skript, hörspiel, moderationstext, sprechertext",
      .weak = ""},
     {.kind = DocumentKind::essay,
-     .nouns = "essay, aufsatz, aufsätze, kolumne, kommentar, rezension, leitartikel, erörterung, filmkritik, "
-              "gedichtinterpretation, buchbesprechung",
+     .nouns = "essay, aufsatz, kolumne, kommentar, rezension, leitartikel, erörterung, filmkritik, "
+              "buchbesprechung, stellungnahme, glosse",
      .weak = ""},
     {.kind = DocumentKind::story,
-     .nouns = "kurzgeschichte, roman, märchen, erzählung, gedicht, gedichte, novelle, fabel, liedtext",
+     .nouns = "kurzgeschichte, roman, märchen, erzählung, gedicht, fabel, liedtext",
      .weak = ""},
     {.kind = DocumentKind::translation,
-     .nouns = "übersetzung, übersetzungen, deutsche fassung, englische fassung, lokalisierung",
+     .nouns = "übersetzung, deutsche fassung, englische fassung, lokalisierung",
      .weak = ""},
     {.kind = DocumentKind::learning,
-     .nouns = "lehrplan, lehrpläne, lehrmaterial, lehrmaterialien, lernmaterial, unterrichtsmaterial, "
+     .nouns = "lehrplan, lehrmaterial, lehrmaterialien, lernmaterial, unterrichtsmaterial, "
               "unterrichtsmaterialien, unterrichtsentwurf, unterrichtsplanung, stundenentwurf, "
-              "schulungsunterlagen, kursunterlagen, lehrbuch, modulhandbuch",
+              "schulungsunterlagen, kursunterlagen, lehrbuch, modulhandbuch, stoffverteilungsplan, "
+              "seminarplan, arbeitsheft, lernplan, schulungskonzept",
      .weak = ""},
-    {.kind = DocumentKind::lectureNotes,
-     .nouns = "mitschrift, mitschriften, vorlesungsnotizen, vorlesungsskript",
-     .weak = ""},
+    {.kind = DocumentKind::lectureNotes, .nouns = "mitschrift, vorlesungsnotizen, vorlesungsskript", .weak = ""},
     {.kind = DocumentKind::studyNotes,
      .nouns = "lernzettel, karteikarten, prüfungsvorbereitung, klausurvorbereitung, vokabelliste, "
               "vokabeln, formelsammlung, lernkarten, spickzettel, zusammenfassung",
      .weak = ""},
     {.kind = DocumentKind::readingNotes,
-     .nouns = "lesenotizen, buchzusammenfassung, lesetagebuch, exzerpt, inhaltsangabe, buchvorstellung, "
-              "leseprotokoll",
+     .nouns = "lesenotizen, buchzusammenfassung, lesetagebuch, exzerpt, inhaltsangabe, leseprotokoll",
      .weak = ""},
     {.kind = DocumentKind::exercises,
      .nouns = "übungsaufgabe, übungsaufgaben, übung, übungen, übungsblatt, übungsblätter, arbeitsblatt, "
-              "arbeitsblätter, aufgabenblatt, hausaufgabe, hausaufgaben",
+              "arbeitsblätter, aufgabenblatt, hausaufgabe, hausaufgaben, aufgabensammlung",
      .weak = ""},
     {.kind = DocumentKind::solutions,
      .nouns = "musterlösung, lösungen, lösungsblatt, lösungsweg, lösungsvorschlag, erwartungshorizont, "
-              "lösungsheft",
+              "lösungsheft, antworten",
      .weak = ""},
     {.kind = DocumentKind::quiz,
-     .nouns = "klausur, klausuren, klassenarbeit, prüfungsfragen, abschlussprüfung, vokabeltest",
+     .nouns = "klausur, klassenarbeit, prüfungsfragen, abschlussprüfung, vokabeltest, quizfragen, "
+              "einstufungstest",
      .weak = "prüfung, prüfungen, quiz"},
     {.kind = DocumentKind::paper,
      .nouns = "abschlussarbeit, bachelorarbeit, masterarbeit, dissertation, doktorarbeit, hausarbeit, "
-              "seminararbeit, facharbeit, projektarbeit",
+              "seminararbeit, facharbeit, projektarbeit, diplomarbeit, forschungsarbeit",
      .weak = ""},
-    {.kind = DocumentKind::journal, .nouns = "tagebuch, tagebucheintrag, tagebucheinträge", .weak = ""},
+    {.kind = DocumentKind::journal, .nouns = "tagebuch, tagebucheintrag, logbuch", .weak = ""},
     {.kind = DocumentKind::resume,
-     .nouns = "lebenslauf, bewerbung, bewerbungen, bewerbungsschreiben, anschreiben, "
-              "motivationsschreiben, bewerbungsunterlagen, empfehlungsschreiben, arbeitszeugnis",
+     .nouns = "lebenslauf, bewerbung, bewerbungsschreiben, anschreiben, motivationsschreiben, "
+              "bewerbungsunterlagen, empfehlungsschreiben, arbeitszeugnis",
      .weak = ""},
     {.kind = DocumentKind::travelPlan,
      .nouns = "reiseplan, reiseplanung, reiseroute, reiseverlauf, reiseprogramm, urlaubsplan, urlaubsplanung",
      .weak = ""},
     {.kind = DocumentKind::recipe,
-     .nouns = "rezept, rezepte, kochbuch, speiseplan, essensplan, rezeptsammlung",
+     .nouns = "rezept, rezepte, kochbuch, speiseplan, essensplan, rezeptsammlung, menü",
      .weak = ""},
 };
 
