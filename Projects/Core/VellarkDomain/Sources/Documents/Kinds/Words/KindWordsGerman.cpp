@@ -25,11 +25,11 @@ constexpr Layered words[] = {
      .nouns = "user story, user stories, nutzergeschichte, anwendungsfall, anwendungsfälle, akzeptanzkriterien",
      .weak = ""},
     {.kind = DocumentKind::meetingNotes,
-     .nouns = "protokoll, protokolle, besprechungsnotiz, besprechungsnotizen, gesprächsnotiz, "
-              "gesprächsnotizen, niederschrift, tagesordnung, meeting-notizen",
+     .nouns = "protokoll, protokolle, besprechungsnotiz, besprechungsnotizen, gesprächsnotiz, niederschrift, "
+              "tagesordnung, meeting-notizen",
      .weak = ""},
     {.kind = DocumentKind::report,
-     .nouns = "bericht, report, analyse, auswertung, gutachten, sachstand, versuchsprotokoll",
+     .nouns = "bericht, report, analyse, auswertung, gutachten, versuchsprotokoll, berichte",
      .weak = ""},
     {.kind = DocumentKind::research,
      .nouns = "recherche, marktforschung, marktanalyse, wettbewerbsanalyse, umfrage, studie, befragung, "
@@ -44,7 +44,9 @@ constexpr Layered words[] = {
      .nouns = "vorschlag, antrag, empfehlung, entscheidungsvorlage, beschlussvorlage, ausschreibung",
      .weak = ""},
     {.kind = DocumentKind::memo, .nouns = "notiz, notizen, vermerk, memo an, notizzettel, ideensammlung", .weak = ""},
-    {.kind = DocumentKind::presentation, .nouns = "präsentation, folien, vortrag, referat, foliensatz", .weak = ""},
+    {.kind = DocumentKind::presentation,
+     .nouns = "präsentation, folien, vortrag, referat, foliensatz, präsentationen",
+     .weak = ""},
     {.kind = DocumentKind::designDoc,
      .nouns = "architektur, architekturkonzept, architekturentscheidung, technisches konzept, feinkonzept, "
               "systementwurf, datenbankentwurf, datenmodell, datenbankschema, klassendiagramm, "
@@ -74,7 +76,7 @@ constexpr Layered words[] = {
     {.kind = DocumentKind::guide,
      .nouns = "anleitung, handbuch, leitfaden, guide, einführung, dokumentation, tutorial, ratgeber, "
               "gebrauchsanweisung, arbeitsanweisung, erste schritte, einarbeitungsplan, verfahrensanweisung, "
-              "prozessbeschreibung",
+              "prozessbeschreibung, anleitungen",
      .weak = ""},
     {.kind = DocumentKind::data,
      .nouns = "daten, datensatz, tabelle, statistik, statistiken, kennzahlen, messprotokoll, messwerte, liste, "
@@ -94,11 +96,11 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::sales,
      .nouns = "angebot, verkaufsunterlagen, vertriebsunterlagen, vertriebspräsentation, verkaufspräsentation, "
-              "unternehmenspräsentation, produktkatalog, preisliste, katalog",
+              "unternehmenspräsentation, produktkatalog, preisliste, katalog, angebote",
      .weak = ""},
     {.kind = DocumentKind::pressRelease,
      .nouns = "pressemitteilung, pressemeldung, presseinformation, pressetext, medienmitteilung, pressemappe, "
-              "presseerklärung",
+              "presseerklärung, pressemitteilungen",
      .weak = ""},
     {.kind = DocumentKind::newsletter,
      .nouns = "newsletter, rundbrief, infobrief, mitarbeiterzeitung, gemeindebrief",
@@ -121,13 +123,13 @@ constexpr Layered words[] = {
      .nouns = "vertrag, vereinbarung, agb, allgemeine geschäftsbedingungen, nutzungsbedingungen, "
               "datenschutzerklärung, vollmacht, kündigung, lizenz, satzung, klage, einverständniserklärung, "
               "widerspruch, übergabeprotokoll, abnahmeprotokoll, impressum, bescheinigung, abmahnung, "
-              "patientenverfügung, bürgschaft",
+              "patientenverfügung, bürgschaft, verträge",
      .weak = ""},
     {.kind = DocumentKind::policy,
      .nouns = "richtlinie, richtlinien, leitlinie, leitlinien, regelung, regelungen, regeln, vorschrift, "
               "vorschriften, hausordnung, geschäftsordnung, betriebsvereinbarung, verhaltenskodex, "
               "dienstanweisung, leitbild, sicherheitskonzept, datenschutzkonzept, prüfungsordnung, "
-              "schulordnung, hygienekonzept, regelwerk",
+              "schulordnung, regelwerk",
      .weak = ""},
     {.kind = DocumentKind::notice,
      .nouns = "mitteilung, bekanntmachung, ankündigung, rundschreiben, einladung, hinweis, hinweise, aushang, "
@@ -139,8 +141,7 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::email,
      .nouns = "geschäftsbrief, begleitschreiben, dankschreiben, kündigungsschreiben, antwortschreiben, "
-              "beschwerdebrief, dankesmail, erinnerungsmail, einladungsmail, rundmail, willkommensmail, "
-              "mail an, anfrage",
+              "beschwerdebrief, dankesmail, rundmail, willkommensmail, mail an, anfrage",
      .weak = "mail, mails, e-mail"},
     {.kind = DocumentKind::faq,
      .nouns = "häufige fragen, häufig gestellte fragen, faq, fragen und antworten, fragenkatalog",
@@ -150,8 +151,8 @@ constexpr Layered words[] = {
               "reportage",
      .weak = ""},
     {.kind = DocumentKind::script,
-     .nouns = "drehbuch, rede, sprechtext, videoskript, theaterstück, untertitel, ansprache, laudatio, "
-              "grußwort, podcast-skript, hörspiel, moderationstext, sprechertext",
+     .nouns = "drehbuch, rede, sprechtext, videoskript, theaterstück, untertitel, ansprache, grußwort, "
+              "podcast-skript, hörspiel, moderationstext, sprechertext",
      .weak = ""},
     {.kind = DocumentKind::essay,
      .nouns = "essay, aufsatz, kolumne, kommentar, rezension, leitartikel, erörterung, filmkritik, "

@@ -25,8 +25,8 @@ constexpr std::array<Layered, 55> words{{
     {DocumentKind::plan,
      "plan, planes, planificación, hoja de ruta, roadmap, cronograma, calendario, estrategia, "
      "estrategias, objetivos, plan estratégico, plan operativo, plan anual, plan mensual, "
-     "plan semanal, plan trimestral, plan comercial, horario, programa de mantenimiento, "
-     "calendario editorial, programación anual, agenda semanal, cuadrante",
+     "plan semanal, plan comercial, horario, programa de mantenimiento, calendario editorial, "
+     "programación anual, agenda semanal, cuadrante",
      ""},
     {DocumentKind::userStories,
      "historias de usuario, historia de usuario, casos de uso, caso de uso, épicas, criterios de aceptación, "
@@ -35,7 +35,7 @@ constexpr std::array<Layered, 55> words{{
     {DocumentKind::meetingNotes,
      "acta, minuta, notas de reunión, notas de la reunión, resumen de la reunión, resumen de reunión, "
      "orden del día, agenda de la reunión, resumen de la llamada, agenda de reunión, "
-     "acuerdos de la reunión",
+     "acuerdos de la reunión, actas",
      ""},
     {DocumentKind::report,
      "informe, informes, reporte, reportes, análisis, resumen ejecutivo, resumen semanal, "
@@ -50,8 +50,8 @@ constexpr std::array<Layered, 55> words{{
      "comparación de precios, sondeo, cuestionario de satisfacción, trabajo de campo",
      ""},
     {DocumentKind::retrospective,
-     "retrospectiva, retro del sprint, lecciones aprendidas, cierre del proyecto, "
-     "revisión del sprint, balance del proyecto",
+     "retrospectiva, lecciones aprendidas, cierre del proyecto, revisión del sprint, "
+     "balance del proyecto",
      ""},
     {DocumentKind::checklist,
      "lista de verificación, lista de comprobación, lista de control, lista de chequeo, checklist, "
@@ -97,7 +97,7 @@ constexpr std::array<Layered, 55> words{{
      "guía, manual, instrucciones, tutorial, instructivo, manual técnico, manual práctico, "
      "cómo instalar, cómo configurar, cómo usar, cómo hacer, primeros pasos, procedimiento, "
      "protocolo, buenas prácticas, documentación, solución de problemas, léeme, procedimientos, "
-     "protocolos, consejos",
+     "protocolos, consejos, manuales, guías",
      ""},
     {DocumentKind::data,
      "datos, conjunto de datos, tabla, hoja de cálculo, estadísticas, métricas, indicadores, "
@@ -131,8 +131,8 @@ constexpr std::array<Layered, 55> words{{
     {DocumentKind::newsletter, "boletín, newsletter, newsletters, revista interna", ""},
     {DocumentKind::socialPost,
      "publicación en redes sociales, publicación de instagram, publicación de linkedin, "
-     "post de instagram, post para, hilo de twitter, tuit, contenido para redes, "
-     "publicaciones redes sociales, post de linkedin, publicación en instagram, pie de foto",
+     "post de instagram, post para, hilo de twitter, tuit, publicaciones redes sociales, "
+     "post de linkedin, publicación en instagram, pie de foto",
      ""},
     {DocumentKind::businessPlan,
      "plan de negocio, plan de negocios, plan de empresa, modelo de negocio, "
@@ -144,18 +144,18 @@ constexpr std::array<Layered, 55> words{{
      "análisis financiero, informe de gastos, proyecciones financieras, declaración de la renta, "
      "liquidación, orden de compra, nota de crédito, nota de gastos, balance, cuenta de resultados, "
      "albarán, extracto bancario, estado financiero, gastos de viaje, estimación de costes, proforma, "
-     "libro de cuentas, estado de cuentas",
+     "libro de cuentas, estado de cuentas, facturas, presupuestos",
      ""},
     {DocumentKind::legal,
      "contrato, acuerdo, acuerdos, convenio, términos y condiciones, condiciones de uso, "
      "condiciones generales, términos de uso, aviso legal, aviso de privacidad, borrador de contrato, "
      "licencia, sentencia, poder notarial, estatutos, cláusulas, informe jurídico, certificado, "
      "demanda, testamento, consentimiento informado, escritura, declaración jurada, autorización, "
-     "denuncia, pacto de socios, política de privacidad",
+     "denuncia, pacto de socios, política de privacidad, contratos",
      ""},
     {DocumentKind::policy,
      "política, reglamento, normativa, normas, reglas, código de conducta, código ético, "
-     "lineamientos, directrices, ordenanza",
+     "lineamientos, directrices, ordenanza, políticas",
      ""},
     {DocumentKind::notice,
      "aviso, avisos, anuncio, anuncios, comunicado, circular informativa, notificación, convocatoria, "
@@ -193,8 +193,8 @@ constexpr std::array<Layered, 55> words{{
      "capítulo de la novela, letra de canción, sinopsis",
      "historia, historias"},
     {DocumentKind::translation,
-     "traducción, borrador de traducción, texto traducido, documento traducido, versión en inglés, "
-     "versión en español, versión inglesa",
+     "traducción, borrador de traducción, texto traducido, versión en inglés, versión en español, "
+     "versión inglesa",
      ""},
     {DocumentKind::learning,
      "material didáctico, material de estudio, material del curso, material de formación, curso, "
@@ -215,8 +215,8 @@ constexpr std::array<Layered, 55> words{{
      ""},
     {DocumentKind::readingNotes,
      "notas de lectura, apuntes de lectura, ficha de lectura, fichas de lectura, resumen del libro, "
-     "resumen de libro, resumen de lectura, resumen del capítulo, diario de lectura, reporte de lectura, "
-     "informe de lectura, control de lectura, citas del libro",
+     "resumen de libro, resumen de lectura, resumen del capítulo, diario de lectura, "
+     "reporte de lectura, informe de lectura, control de lectura",
      ""},
     {DocumentKind::exercises,
      "ejercicios, ejercicio, problemas de matemáticas, problemas de física, hoja de ejercicios, "
@@ -237,8 +237,7 @@ constexpr std::array<Layered, 55> words{{
      "prueba"},
     {DocumentKind::errorNotes,
      "cuaderno de errores, libreta de errores, diario de errores, notas de errores, "
-     "errores del examen, errores en el examen, mis errores, repaso de errores, registro de errores, "
-     "errores frecuentes",
+     "errores del examen, mis errores, registro de errores, errores frecuentes",
      ""},
     {DocumentKind::paper,
      "tesis, tesina, trabajo de fin de grado, trabajo fin de grado, trabajo de fin de máster, "

@@ -21,9 +21,9 @@ constexpr std::array<Layered, 55> words{{
      "tài liệu yêu cầu, thông số kỹ thuật, phân tích yêu cầu, yêu cầu nghiệp vụ, yêu cầu phần mềm",
      ""},
     {DocumentKind::plan,
-     "kế hoạch, bản kế hoạch, lộ trình, chiến lược, thời gian biểu, thời khóa biểu, thời khoá "
-     "biểu, lịch làm việc, lịch trình dự án, mục tiêu, timeline dự án, bảng kế hoạch, tiến độ "
-     "dự án, lịch công tác, lịch trình công tác",
+     "kế hoạch, bản kế hoạch, lộ trình, chiến lược, thời gian biểu, thời khóa biểu, "
+     "lịch làm việc, lịch trình dự án, mục tiêu, bảng kế hoạch, tiến độ dự án, "
+     "lịch công tác, lịch trình công tác",
      ""},
     {DocumentKind::userStories,
      "câu chuyện người dùng, trường hợp sử dụng, tiêu chí chấp nhận, tiêu chí nghiệm thu, ca "
@@ -38,14 +38,15 @@ constexpr std::array<Layered, 55> words{{
      "đánh giá",
      ""},
     {DocumentKind::research,
-     "nghiên cứu, bài nghiên cứu, khảo sát, phân tích thị trường, phân tích đối thủ, phân tích swot, so sánh, "
-     "bảng so sánh, tổng quan tài liệu, phiếu khảo sát, kết quả khảo sát, tìm hiểu",
+     "nghiên cứu, bài nghiên cứu, khảo sát, phân tích thị trường, phân tích đối thủ, "
+     "phân tích swot, so sánh, bảng so sánh, tổng quan tài liệu, phiếu khảo sát, "
+     "kết quả khảo sát, tìm hiểu, điều tra",
      ""},
     {DocumentKind::retrospective,
      "rút kinh nghiệm, bài học kinh nghiệm, tổng kết dự án, tổng kết sprint, bài học rút ra, nhìn lại", ""},
     {DocumentKind::checklist,
-     "danh sách kiểm tra, bảng kiểm, danh sách công việc, việc cần làm, danh sách việc cần làm, danh sách mua sắm, "
-     "checklist công việc, những việc cần làm, công việc cần làm, checklist chuẩn bị",
+     "danh sách kiểm tra, bảng kiểm, danh sách công việc, việc cần làm, "
+     "danh sách việc cần làm, danh sách mua sắm, công việc cần làm",
      ""},
     {DocumentKind::proposal, "đề xuất, bản đề xuất, tờ trình, đề án, phương án, kiến nghị", ""},
     {DocumentKind::memo, "ghi chú, ghi nhớ, ghi chép, lời nhắc, bản ghi nhớ", ""},
@@ -54,26 +55,27 @@ constexpr std::array<Layered, 55> words{{
      "slide báo cáo",
      ""},
     {DocumentKind::designDoc,
-     "tài liệu thiết kế, thiết kế hệ thống, thiết kế kỹ thuật, thiết kế phần mềm, thiết kế cơ "
-     "sở dữ liệu, thiết kế api, kiến trúc hệ thống, kiến trúc phần mềm, mô hình dữ liệu, sơ đồ "
-     "kiến trúc, sơ đồ lớp, giải pháp kỹ thuật",
+     "tài liệu thiết kế, thiết kế hệ thống, thiết kế kỹ thuật, thiết kế phần mềm, "
+     "thiết kế cơ sở dữ liệu, thiết kế api, kiến trúc hệ thống, kiến trúc phần mềm, "
+     "mô hình dữ liệu, sơ đồ kiến trúc, sơ đồ lớp, giải pháp kỹ thuật, lưu đồ",
      ""},
     {DocumentKind::apiDoc, "tài liệu api, đặc tả api, hướng dẫn api, tài liệu tích hợp api, mô tả api", ""},
     {DocumentKind::testPlan,
      "kế hoạch kiểm thử, kế hoạch test, trường hợp kiểm thử, kịch bản kiểm thử, kịch bản test, tài liệu kiểm thử, "
      "ca kiểm thử, chiến lược kiểm thử",
      ""},
-    {DocumentKind::bugReport, "báo cáo lỗi, báo lỗi, danh sách lỗi, báo cáo bug, lỗi khi, lỗi đăng nhập, mô tả lỗi",
-     ""},
+    {DocumentKind::bugReport, "báo cáo lỗi, báo lỗi, danh sách lỗi, báo cáo bug, lỗi đăng nhập, mô tả lỗi", ""},
     {DocumentKind::codeReview, "đánh giá mã nguồn, đánh giá code, kiểm tra mã nguồn, nhận xét code, review code", ""},
     {DocumentKind::postmortem,
      "báo cáo sự cố, phân tích sự cố, tổng kết sự cố, điều tra sự cố, phân tích nguyên nhân gốc rễ", ""},
     {DocumentKind::changelog,
-     "nhật ký thay đổi, lịch sử thay đổi, lịch sử phiên bản, lịch sử cập nhật, ghi chú phát hành, ghi chú phiên bản",
+     "nhật ký thay đổi, lịch sử thay đổi, lịch sử phiên bản, lịch sử cập nhật, "
+     "ghi chú phát hành, ghi chú phiên bản, nội dung cập nhật",
      ""},
     {DocumentKind::guide,
-     "hướng dẫn, tài liệu hướng dẫn, sách hướng dẫn, cẩm nang, sổ tay, quy trình, cách sử dụng, cách cài đặt, "
-     "cách dùng, tài liệu kỹ thuật, khắc phục sự cố, xử lý sự cố, thủ tục, bài hướng dẫn, qui trình, các bước",
+     "hướng dẫn, tài liệu hướng dẫn, sách hướng dẫn, cẩm nang, sổ tay, quy trình, "
+     "cách sử dụng, cách cài đặt, cách dùng, tài liệu kỹ thuật, khắc phục sự cố, "
+     "xử lý sự cố, thủ tục, bài hướng dẫn, các bước, mẹo vặt",
      ""},
     {DocumentKind::data,
      "dữ liệu, bộ dữ liệu, số liệu, bảng tính, thống kê, bảng thống kê, danh sách, bảng điểm, bảng chấm công, "
@@ -99,25 +101,26 @@ constexpr std::array<Layered, 55> words{{
     {DocumentKind::pressRelease, "thông cáo, bài thông cáo báo chí", ""},
     {DocumentKind::newsletter, "bản tin, điểm tin", ""},
     {DocumentKind::socialPost,
-     "bài đăng, bài post, bài viết facebook, bài viết fanpage, bài viết linkedin, bài viết mạng xã hội, "
-     "nội dung mạng xã hội, content facebook, caption cho, caption facebook",
+     "bài đăng, bài post, bài viết facebook, bài viết linkedin, bài viết mạng xã hội, "
+     "nội dung mạng xã hội, caption facebook",
      ""},
     {DocumentKind::businessPlan,
      "kế hoạch kinh doanh, bản kế hoạch kinh doanh, mô hình kinh doanh, phương án kinh doanh, kế hoạch khởi nghiệp",
      ""},
     {DocumentKind::finance,
-     "ngân sách, dự toán, hóa đơn, hoá đơn, báo giá, bảng báo giá, báo cáo tài chính, báo cáo thu chi, bảng lương, "
-     "bảng cân đối kế toán, sổ thu chi, quyết toán, dòng tiền, kế hoạch tài chính, phân tích tài chính, phiếu thu, "
-     "đơn đặt hàng, đề nghị thanh toán, báo cáo chi phí, phiếu chi, phiếu lương, tờ khai thuế, "
-     "giấy đề nghị thanh toán",
+     "ngân sách, dự toán, hóa đơn, hoá đơn, báo giá, bảng báo giá, báo cáo tài chính, "
+     "báo cáo thu chi, bảng lương, bảng cân đối kế toán, sổ thu chi, quyết toán, dòng tiền, "
+     "kế hoạch tài chính, phân tích tài chính, phiếu thu, đơn đặt hàng, đề nghị thanh toán, "
+     "báo cáo chi phí, phiếu chi, phiếu lương, tờ khai thuế, giấy đề nghị thanh toán, biên lai",
      ""},
     {DocumentKind::legal,
-     "hợp đồng, mẫu hợp đồng, dự thảo hợp đồng, thỏa thuận, thoả thuận, điều khoản, giấy ủy quyền, đơn khởi kiện, "
-     "biên bản ghi nhớ, biên bản nghiệm thu, biên bản bàn giao, giấy phép, điều lệ, bản cam kết, nghị định, "
-     "phụ lục hợp đồng, bản án, giấy uỷ quyền, biên bản thanh lý",
+     "hợp đồng, mẫu hợp đồng, dự thảo hợp đồng, thỏa thuận, thoả thuận, điều khoản, "
+     "giấy ủy quyền, đơn khởi kiện, biên bản ghi nhớ, biên bản nghiệm thu, "
+     "biên bản bàn giao, giấy phép, điều lệ, bản cam kết, nghị định, phụ lục hợp đồng, "
+     "bản án, giấy uỷ quyền, biên bản thanh lý, chính sách bảo mật, cam kết, di chúc",
      ""},
     {DocumentKind::policy, "chính sách, quy định, quy chế, nội quy, quy tắc, tiêu chuẩn, quyết định, nghị quyết", ""},
-    {DocumentKind::notice, "thông báo, bản thông báo, giấy mời, thư mời", ""},
+    {DocumentKind::notice, "thông báo, bản thông báo, giấy mời, thư mời, thiệp mời", ""},
     {DocumentKind::jobPosting,
      "tin tuyển dụng, thông báo tuyển dụng, tuyển dụng, mô tả công việc, bản mô tả công việc, cần tuyển, "
      "tuyển nhân viên, bài tuyển dụng",
@@ -128,16 +131,17 @@ constexpr std::array<Layered, 55> words{{
      "thư"},
     {DocumentKind::faq, "câu hỏi thường gặp, những câu hỏi thường gặp, hỏi đáp, hỏi và đáp, giải đáp thắc mắc", ""},
     {DocumentKind::blogPost, "bài viết, bài blog, bài đăng blog, bài báo, phóng sự", ""},
-    {DocumentKind::script, "kịch bản, lời thoại, phụ đề, bài phát biểu, lời dẫn", ""},
+    {DocumentKind::script, "kịch bản, lời thoại, phụ đề, bài phát biểu, lời dẫn, diễn văn", ""},
     {DocumentKind::essay,
      "bài luận, bài tiểu luận, bài văn, cảm nhận, cảm nghĩ, tản văn, phê bình, review phim, "
-     "phân tích bài thơ, phân tích tác phẩm, nghị luận",
+     "phân tích bài thơ, phân tích tác phẩm, nghị luận, tùy bút",
      ""},
     {DocumentKind::story, "truyện, tiểu thuyết, bài thơ, thơ, cổ tích, lời bài hát", ""},
-    {DocumentKind::translation, "bản dịch, bài dịch, tài liệu dịch, dịch thuật, dịch tài liệu", ""},
+    {DocumentKind::translation, "bản dịch, bài dịch, dịch thuật, dịch tài liệu", ""},
     {DocumentKind::learning,
-     "giáo án, giáo trình, tài liệu học tập, tài liệu đào tạo, chương trình đào tạo, chương trình học, khóa học, "
-     "khoá học, bài học, đề cương môn học, kế hoạch bài dạy, kế hoạch đào tạo, chuyên đề, chương trình giảng dạy",
+     "giáo án, giáo trình, tài liệu học tập, tài liệu đào tạo, chương trình đào tạo, "
+     "chương trình học, khóa học, khoá học, bài học, đề cương môn học, kế hoạch bài dạy, "
+     "kế hoạch đào tạo, chuyên đề, chương trình giảng dạy",
      ""},
     {DocumentKind::lectureNotes,
      "bài giảng, ghi chép bài giảng, ghi chú bài giảng, tóm tắt bài giảng, slide bài giảng, vở "
@@ -162,10 +166,10 @@ constexpr std::array<Layered, 55> words{{
      "đề tài nghiên cứu, nghiên cứu khoa học, chuyên đề tốt nghiệp, đề cương luận văn, tiểu "
      "luận",
      ""},
-    {DocumentKind::journal, "nhật ký, nhật kí, sổ nhật ký", ""},
+    {DocumentKind::journal, "nhật ký, sổ nhật ký", ""},
     {DocumentKind::resume,
-     "sơ yếu lý lịch, lý lịch, hồ sơ xin việc, đơn xin việc, thư xin việc, cv xin việc, cv "
-     "của, thư ứng tuyển",
+     "sơ yếu lý lịch, lý lịch, hồ sơ xin việc, đơn xin việc, thư xin việc, cv xin việc, "
+     "cv của, thư ứng tuyển, thư giới thiệu",
      ""},
     {DocumentKind::travelPlan,
      "kế hoạch du lịch, lịch trình, kế hoạch chuyến đi, kế hoạch đi chơi, hành trình, cẩm nang du lịch, "
