@@ -137,7 +137,7 @@ private:
 
     // The text of a message stays until the next step.
     static bool takeElement(JSONCursor& cursor, std::string_view& message) {
-        if (!cursor.isAt('{')) return cursor.skipValue() && (cursor.isAt(']') || cursor.endElement());
+        if (!cursor.isAt('{')) return cursor.skipValue() && cursor.endElement();
         const std::string_view rest = cursor.rest();
         const auto length = objectLength(rest);
         if (!length) return false;
