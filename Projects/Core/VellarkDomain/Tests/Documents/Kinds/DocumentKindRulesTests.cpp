@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <set>
+#include <tuple>
 
 namespace vellark {
 namespace {
@@ -33,6 +34,12 @@ TEST(DocumentKindRules, haveTheSizesOfTheVocabulary) {
     EXPECT_EQ(countOf(DocumentKindRules::table(), &V::KindRow::exclusions), 0U);
     EXPECT_EQ(countOf(DocumentKindRules::weak(), &V::WordRow::words), 152U);
     EXPECT_EQ(countOf(DocumentKindRules::markers(), &V::WordRow::words), 298U);
+    using enum DocumentKind;
+    for (const auto& [kind, names, cues] : {std::tuple(prd, 30U, 2U), {plan, 35U, 16U}, {meetingNotes, 30U, 20U}}) {
+        const auto row = std::ranges::find(DocumentKindRules::table(), kind, &V::KindRow::kind);
+        EXPECT_EQ(row->names.size(), names) << rawValue(kind);
+        EXPECT_EQ(row->cues.size(), cues) << rawValue(kind);
+    }
     EXPECT_EQ(DocumentKindRules::blocked().size(), 69U);
     EXPECT_EQ(DocumentKindRules::tailWords().size(), 82U);
     EXPECT_EQ(DocumentKindRules::mongolianTailWords().size(), 20U);

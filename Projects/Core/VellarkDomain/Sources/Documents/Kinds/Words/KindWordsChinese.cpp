@@ -10,7 +10,11 @@ namespace vellark::KindWords {
 namespace {
 
 constexpr Base words[] = {
-    {.kind = DocumentKind::prd, .names = "需求文档, 需求文件", .cues = "", .weak = "", .markers = ""},
+    {.kind = DocumentKind::prd,
+     .names = "需求文档, 需求文件, 产品需求说明, 產品需求",
+     .cues = "",
+     .weak = "",
+     .markers = ""},
     {.kind = DocumentKind::spec,
      .names = "规格说明书, 规格书, 需求说明书, 需求分析, 技术规范, 規格書, 技术规格",
      .cues = "需求",

@@ -16,7 +16,7 @@ using enum DocumentKind;
 constexpr auto rows = std::to_array<Base>({
     {.kind = prd,
      .names = "prd, product requirement, product brief, feature brief, business requirement, one pager, mrd, "
-              "brd",
+              "brd, feature requirement",
      .cues = "",
      .weak = "",
      .markers = "out of scope, non goals, success metrics, target user, open question"},
@@ -27,8 +27,8 @@ constexpr auto rows = std::to_array<Base>({
      .weak = "spec, specs",
      .markers = "functional requirements, non functional requirements, the system shall"},
     {.kind = plan,
-     .names = "plan, roadmap, schedule, strategy, strategies, okr",
-     .cues = "milestone, sprint, okr, go to market, roadmap, phase",
+     .names = "plan, roadmap, schedule, strategy, strategies, okr, project charter",
+     .cues = "milestone, sprint, okr, go to market, roadmap, phase, objective, deadline",
      .weak = "goal, objective, strategy, initiative",
      .markers = "milestone, deliverable, phase"},
     {.kind = userStories,
@@ -42,7 +42,7 @@ constexpr auto rows = std::to_array<Base>({
      .weak = "discussion",
      .markers = "attendee, action item, decision, participant, agenda, next meeting"},
     {.kind = report,
-     .names = "report, executive summary, dashboard, business review, qbr",
+     .names = "report, executive summary, dashboard, business review",
      .cues = "weekly, monthly, quarterly, annual, progress, status, kpi, performance",
      .weak = "update, snapshot",
      .markers = "this week, next week, blocker"},
@@ -156,8 +156,7 @@ constexpr auto rows = std::to_array<Base>({
      .markers = ""},
     {.kind = sales,
      .names = "sales deck, sales pitch, sales script, sales proposal, price list, pricing, catalog, "
-              "company profile, success story, success stories, call script, rate card, battle card, "
-              "product sheet",
+              "success story, success stories, call script, rate card, battle card, product sheet",
      .cues = "sales, customer",
      .weak = "pitch, leads",
      .markers = ""},

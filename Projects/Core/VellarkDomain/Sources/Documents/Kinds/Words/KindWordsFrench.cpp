@@ -16,7 +16,7 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::spec,
      .nouns = "cahier des charges, spécification, spécifications, exigences, fiche technique, "
-              "dossier technique, règles de gestion, besoins fonctionnels",
+              "dossier technique, règles de gestion, besoins fonctionnels, cahiers des charges",
      .weak = "besoins"},
     {.kind = DocumentKind::plan,
      .nouns = "plan, plan d'action, plan projet, plan stratégique, plan marketing, planning, calendrier, "
@@ -49,7 +49,7 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::checklist,
      .nouns = "liste de contrôle, liste de vérification, liste de tâches, liste des tâches, liste de courses, "
-              "choses à faire, à faire, checklist, checklists, check-list, points à vérifier, liste des courses",
+              "à faire, checklist, checklists, check-list, points à vérifier, liste des courses",
      .weak = "tâches, liste, listes"},
     {.kind = DocumentKind::proposal,
      .nouns = "proposition, propositions, recommandation, recommandations, demande de subvention, "

@@ -15,11 +15,11 @@ constexpr Layered words[] = {
     {.kind = DocumentKind::spec,
      .nouns = "spezifikation, pflichtenheft, lastenheft, anforderungen, anforderungskatalog, "
               "anforderungsanalyse, leistungsbeschreibung, funktionsbeschreibung, fachkonzept, "
-              "leistungsverzeichnis, datenblatt, anforderungsdokument",
+              "leistungsverzeichnis, datenblatt, anforderungsdokument, spezifikationen",
      .weak = ""},
     {.kind = DocumentKind::plan,
      .nouns = "plan, zeitplan, terminplan, projektplan, aktionsplan, maßnahmenplan, wochenplan, dienstplan, "
-              "planung, strategie, roadmap, schichtplan, migrationsplan, strategiepapier",
+              "planung, strategie, roadmap, schichtplan, migrationsplan",
      .weak = ""},
     {.kind = DocumentKind::userStories,
      .nouns = "user story, user stories, nutzergeschichte, anwendungsfall, anwendungsfälle, akzeptanzkriterien",

@@ -14,7 +14,8 @@ using enum DocumentKind;
 
 constexpr auto rows = std::to_array<Base>({
     {.kind = prd,
-     .names = "기획서, 기획안, 기획 문서, 서비스 기획, 제품 기획, 제품 요구사항, 제품 요구사항 정의서, 원페이저",
+     .names = "기획서, 기획안, 기획 문서, 서비스 기획, 제품 기획, 제품 요구사항, 제품 요구사항 정의서, "
+              "원페이저, 앱 기획, 기능 기획, 상품 기획, 콘텐츠 기획, 제품 브리프",
      .cues = "기획",
      .weak = "",
      .markers = "해결 방안, 성공 지표, 대상 사용자, 핵심 기능"},
@@ -25,8 +26,8 @@ constexpr auto rows = std::to_array<Base>({
      .markers = "기능 요구사항, 비기능 요구사항, 비기능, 제약"},
     {.kind = plan,
      .names = "계획, 계획서, 계획안, 플랜, 로드맵, 일정표, 일정, 전략, 실행 계획, 추진 계획, 운영 계획, "
-              "업무 계획",
-     .cues = "일정, 마일스톤, 스프린트, 전략, 목표, 로드맵",
+              "업무 계획, 추진 일정",
+     .cues = "일정, 마일스톤, 스프린트, 전략",
      .weak = "방안, 구상",
      .markers = "담당자, 산출물, 마일스톤"},
     {.kind = userStories,
@@ -35,7 +36,8 @@ constexpr auto rows = std::to_array<Base>({
      .weak = "티켓",
      .markers = ""},
     {.kind = meetingNotes,
-     .names = "회의록, 회의 기록, 회의 노트, 미팅 노트, 회의 메모, 미팅 메모, 의사록, 회의 안건",
+     .names = "회의록, 회의 기록, 회의 노트, 미팅 노트, 회의 메모, 미팅 메모, 의사록, 회의 안건, 회의 자료, "
+              "면담록",
      .cues = "회의, 미팅, 스탠드업, 주간 회의, 간담회, 면담, 킥오프",
      .weak = "논의, 협의",
      .markers = "참석자, 안건, 결정 사항, 액션 아이템, 논의 내용, 다음 회의"},
@@ -57,8 +59,8 @@ constexpr auto rows = std::to_array<Base>({
      .weak = "돌아보기",
      .markers = "잘한 점, 좋았던, 아쉬운, 아쉬웠던, 배운"},
     {.kind = checklist,
-     .names = "체크 리스트, 점검표, 점검 목록, 할 일, 할 일 목록, 준비물, 준비물 목록, 투두 리스트, "
-              "장보기 목록, 쇼핑 리스트, 버킷 리스트",
+     .names = "체크 리스트, 점검표, 점검 목록, 할 일, 할 일 목록, 준비물, 투두 리스트, 장보기 목록, "
+              "쇼핑 리스트, 버킷 리스트",
      .cues = "점검, 준비, 오늘, 출시 전",
      .weak = "투두",
      .markers = "완료 여부"},
@@ -188,7 +190,7 @@ constexpr auto rows = std::to_array<Base>({
      .weak = "원칙",
      .markers = "적용 범위, 시행일, 부칙"},
     {.kind = notice,
-     .names = "공지, 공지 사항, 공고, 공고문, 통지서, 초대장, 초청장, 가정통신문, 공문",
+     .names = "공지, 공지 사항, 공고, 공고문, 통지서, 초대장, 가정통신문, 공문",
      .cues = "공지, 휴무, 행사",
      .weak = "알림장, 통보",
      .markers = "알려드립니다, 안내드립니다, 양해, 바랍니다"},
@@ -203,7 +205,7 @@ constexpr auto rows = std::to_array<Base>({
      .weak = "이메일, 메일",
      .markers = "회신, 안녕하세요, 드림, 감사합니다"},
     {.kind = faq,
-     .names = "자주 묻는 질문, 질의 응답, 질문과 답변, 문답, 질문, 도움말",
+     .names = "자주 묻는 질문, 질의 응답, 질문과 답변, 질문, 도움말",
      .cues = "질문, 궁금",
      .weak = "문의",
      .markers = ""},
@@ -230,7 +232,7 @@ constexpr auto rows = std::to_array<Base>({
      .weak = "과정",
      .markers = "학습 목표, 성취 기준, 차시, 전개"},
     {.kind = lectureNotes,
-     .names = "강의 노트, 강의 필기, 수업 노트, 수업 필기, 필기",
+     .names = "강의 노트, 강의 필기, 수업 노트, 필기",
      .cues = "강의, 수업, 특강, 세미나, 인강",
      .weak = "",
      .markers = "교수님, 지난 시간, 다음 시간"},
@@ -240,7 +242,7 @@ constexpr auto rows = std::to_array<Base>({
      .weak = "",
      .markers = "핵심 개념"},
     {.kind = readingNotes,
-     .names = "독서 노트, 독서록, 독서 메모, 독후감, 독서 감상문, 논문 정리, 논문 요약, 논문 리뷰",
+     .names = "독서 노트, 독서록, 독후감, 논문 정리, 논문 요약, 논문 리뷰",
      .cues = "독서, 책, 도서",
      .weak = "",
      .markers = "인상 깊은"},
