@@ -20,7 +20,8 @@ std::string joined(const std::vector<std::string>& lines) {
 TEST(KindCorpus, isClassifiedAsPromised) {
     constexpr double mostDecidedWithoutKind = 3;
     constexpr double fewestDocumentsRight = 80;
-    const std::map<std::string, double> lower = {{"en", 91}, {"ko", 94}, {"zh", 91}};
+    const std::map<std::string, double> lower = {{"de", 88}, {"en", 91}, {"fr", 88}, {"ko", 94},
+                                                 {"mn", 84}, {"vi", 86}, {"zh", 91}};
     testing::KindCorpus corpus(std::string(VELLARK_TEST_DATA) + "/Kinds");
     if (!corpus.run()) GTEST_SKIP() << "no titles in Tests/Data/Kinds";
     for (const auto& [language, score] : corpus.languages) {
