@@ -13,8 +13,9 @@ std::string joined(const std::vector<std::string>& lines) {
     return text;
 }
 
-// What the word lists are good for, on titles and documents that their writers did not choose: floors a little below
-// what they reach, so that a word that costs more than it brings shows. Titles that end with something else than their
+// Floors a little below what the word lists reach, so that a word that costs more than it brings shows. The lists were
+// mended by most of these titles, and some were written by who wrote the lists: fresh ones score lower. Only those of
+// titles-third.tsv were not mended by yet. Titles that end with something else than their
 // kind ("Invoice 17 Brightline", common in English, Japanese and Chinese) are out of reach of words, and so are
 // untitled documents in languages without phrases of the opening.
 TEST(KindCorpus, isClassifiedAsPromised) {
