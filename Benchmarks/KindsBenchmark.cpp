@@ -80,42 +80,11 @@ std::vector<std::u32string> normalized(unsigned percent) {
     return result;
 }
 
-std::vector<std::u32string> patterns(std::vector<bool>& plural) {
-    std::vector<std::u32string> result;
-    const auto add = [&](const auto& words, bool isPlural) {
-        for (const std::string_view word : words) {
-            result.push_back(DocumentKindMatcher::normalize(word));
-            plural.push_back(isPlural);
-        }
-    };
-    for (const auto& row : DocumentKindRules::table()) {
-        add(row.names, true);
-        add(row.cues, true);
-    }
-    for (const auto& row : DocumentKindRules::markers()) {
-        add(row.words, true);
-    }
-    for (const DocumentKindLanguage language : allCases<DocumentKindLanguage>()) {
-        for (const auto& row : DocumentKindRules::words(language)) {
-            add(row.nouns, false);
-        }
-        add(DocumentKindRules::complements(language), false);
-    }
-    return result;
-}
-
-// Both matchers have the same patterns and flags.
+// Both matchers have the lexicon's patterns and flags.
 const DocumentKindMatcher::Patterns& flaggedPatterns() {
-    static std::vector<bool> plural;
-    static const std::vector<std::u32string> list = patterns(plural);
-    static const DocumentKindMatcher::Patterns result = [] {
-        DocumentKindMatcher::Patterns flagged = {.patterns = list, .plural = plural};
-        for (const std::u32string& pattern : list) {
-            flagged.suffixHead.push_back(DocumentKindRules::isSuffixHead(pattern));
-            flagged.compound.push_back(!plural[flagged.compound.size()] && pattern.size() > 8);
-        }
-        return flagged;
-    }();
+    static const DocumentKindLexicon::Patterns list = DocumentKindLexicon::patterns();
+    static const DocumentKindMatcher::Patterns result = {
+        .patterns = list.texts, .suffixHead = list.suffixHead, .plural = list.plural, .compound = list.compound};
     return result;
 }
 

@@ -276,6 +276,14 @@ void DocumentKindLexicon::dropHidden(std::vector<DocumentKindMatcher::Hit>& hits
     std::erase_if(hits, [&](const auto& hit) { return blockers.covers(hit.start, hit.end); });
 }
 
+DocumentKindLexicon::Patterns DocumentKindLexicon::patterns() {
+    Built built(DocumentKindRules::vocabulary());
+    return {.texts = std::move(built.patterns),
+            .suffixHead = std::move(built.suffixHead),
+            .plural = std::move(built.base),
+            .compound = std::move(built.compound)};
+}
+
 std::vector<std::u32string> DocumentKindLexicon::variants(std::u32string_view pattern) {
     if (pattern.empty()) return {};
     std::vector<std::u32string> result{std::u32string(pattern)};

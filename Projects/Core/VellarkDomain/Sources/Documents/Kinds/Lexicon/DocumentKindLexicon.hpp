@@ -38,6 +38,16 @@ public:
     /// read for.
     void markerHits(std::u32string_view text, std::vector<DocumentKindMatcher::Hit>& hits) const;
 
+    /// The patterns of `DocumentKindRules`' lexicon, by index, with the flags that its matcher is given: for who would
+    /// match them in another way.
+    struct Patterns {
+        std::vector<std::u32string> texts;
+        std::vector<bool> suffixHead;
+        std::vector<bool> plural;
+        std::vector<bool> compound;
+    };
+    [[nodiscard]] static Patterns patterns();
+
     /// The pattern, and where it differs the form without the blanks between Korean, Japanese and Chinese words.
     [[nodiscard]] static std::vector<std::u32string> variants(std::u32string_view pattern);
 

@@ -204,25 +204,50 @@ private:
 
     void walk(Trie trie, std::size_t start) {
         DoubleArray::State state = array_.root(trie);
-        for (std::size_t position = start;; ++position) {
-            state = array_.step(state, MatcherAlphabet::code(entries_[position]));  // the end of the text has no child
+        for (std::size_t position = start;;) {
+            state = array_.step(state, codeAt(position++));  // the end of the text has no child
             if (state == DoubleArray::none) return;
-            if (!array_.isEnd(state)) continue;
-            for (auto pattern = array_.value(state); pattern != noPattern; pattern = nextEqual(pattern)) {
-                if (mayEnd(traits(pattern), position + 1)) add(pattern, start, position + 1);
+            if (!array_.isMarked(state)) continue;
+            if (array_.isEnd(state)) addForward(array_.value(state), start, position);
+            if (!array_.hasTail(state)) continue;
+            const DoubleArray::Tail tail = array_.tail(state);
+            for (const DoubleArray::Code code : tail.codes) {
+                if (codeAt(position++) != code) return;
             }
+            return addForward(tail.value, start, position);
         }
     }
 
     void walkBack(std::size_t end) {
         DoubleArray::State state = array_.root(reversed);
         for (std::size_t start = end; start > 0;) {
-            state = array_.step(state, MatcherAlphabet::code(entries_[--start]));
+            state = array_.step(state, codeAt(--start));
             if (state == DoubleArray::none) return;
-            if (!array_.isEnd(state)) continue;
-            for (auto pattern = array_.value(state); pattern != noPattern; pattern = nextEqual(pattern)) {
-                if (mayStandBack(traits(pattern), start, end)) add(pattern, start, end);
+            if (!array_.isMarked(state)) continue;
+            if (array_.isEnd(state)) addBackward(array_.value(state), start, end);
+            if (!array_.hasTail(state)) continue;
+            const DoubleArray::Tail tail = array_.tail(state);
+            if (tail.codes.size() > start) return;
+            for (const DoubleArray::Code code : tail.codes) {
+                if (codeAt(--start) != code) return;
             }
+            return addBackward(tail.value, start, end);
+        }
+    }
+
+    [[nodiscard]] DoubleArray::Code codeAt(std::size_t position) const {
+        return MatcherAlphabet::code(entries_[position]);
+    }
+
+    void addForward(std::uint32_t pattern, std::size_t start, std::size_t end) {
+        for (; pattern != noPattern; pattern = nextEqual(pattern)) {
+            if (mayEnd(traits(pattern), end)) add(pattern, start, end);
+        }
+    }
+
+    void addBackward(std::uint32_t pattern, std::size_t start, std::size_t end) {
+        for (; pattern != noPattern; pattern = nextEqual(pattern)) {
+            if (mayStandBack(traits(pattern), start, end)) add(pattern, start, end);
         }
     }
 

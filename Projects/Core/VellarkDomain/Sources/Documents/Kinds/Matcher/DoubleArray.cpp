@@ -6,7 +6,7 @@
 
 // Building walks the sorted keys range by range, so that no trie of nodes stands in between: the keys below a state are
 // one range, and those below its children are the runs of equal codes at the next depth. Places are found by first fit
-// over a list of free cells. States with many children are few, and the many with one child take the first free cell.
+// over a list of free cells. States with many children are few, and those with one child take the first free cell.
 
 namespace vellark {
 
@@ -41,7 +41,7 @@ public:
         }
         array_.codeBits_ = static_cast<unsigned>(std::bit_width(highestCode_ + 1));
         array_.codeMask_ = (Cell{1} << array_.codeBits_) - 1;
-        grow(tries.size() + 2 + codes / 2 + highestCode_);
+        grow(tries.size() + 2 + codes / 4 + highestCode_);
         take(DoubleArray::none, array_.codeMask_);
         for (const auto& keys : tries) {
             const State root = freeCell(1);
@@ -73,6 +73,7 @@ private:
             keys = keys.subspan(1);
         }
         if (keys.empty()) return;
+        if (keys.size() == 1 && pending.depth > 0) return addTail(pending.state, keys.front(), pending.depth);
         codes_.clear();
         const auto codeOf = [&](const Key& key) { return key.codes[pending.depth]; };
         for (const Key& key : keys) {
@@ -87,6 +88,16 @@ private:
             pending_.push_back({base + code, pending.depth + 1, keys.first(count)});
             keys = keys.subspan(count);
         }
+    }
+
+    void addTail(State state, const Key& key, std::size_t depth) {
+        const auto offset = static_cast<std::uint32_t>(array_.tails_.size());
+        checkRoom(offset);
+        array_.cells_[state] |= DoubleArray::hasRest | offset << array_.codeBits_;
+        const auto rest = key.codes.subspan(depth);
+        array_.tails_.push_back(key.value);
+        array_.tails_.push_back(static_cast<std::uint32_t>(rest.size()));
+        array_.tails_.insert(array_.tails_.end(), rest.begin(), rest.end());
     }
 
     // The least base, among those tried, that no state has and where all of `codes_` fall on free cells.
@@ -108,9 +119,13 @@ private:
                 ++base;
             ensure(base + codes_.back() + 1);
         }
-        if (base > (~DoubleArray::endsKey >> array_.codeBits_)) throw std::length_error("too many keys");
+        checkRoom(base);
         isBase_[base] = true;
         return base;
+    }
+
+    void checkRoom(std::uint32_t base) const {
+        if (base > (~DoubleArray::marks >> array_.codeBits_)) throw std::length_error("too many keys");
     }
 
     [[nodiscard]] bool suits(std::uint32_t base) const {
@@ -165,7 +180,7 @@ private:
     void finish() {
         std::uint32_t highestBase = 0;
         for (const Cell cell : array_.cells_) {
-            highestBase = std::max(highestBase, array_.base(cell));
+            if ((cell & DoubleArray::hasRest) == 0) highestBase = std::max(highestBase, array_.base(cell));
         }
         array_.cells_.resize(std::max<std::size_t>(array_.cells_.size(), highestBase + highestCode_ + 1),
                              array_.codeMask_);
