@@ -12,11 +12,12 @@ namespace {
 constexpr Layered words[] = {
     {.kind = DocumentKind::prd,
      .nouns = "expression de besoins, expression des besoins, exigences produit, note de cadrage, "
-              "fiche projet, brief produit, fiche de cadrage, expression de besoin, cadrage fonctionnel",
+              "fiche projet, brief produit, fiche de cadrage, expression de besoin, cadrage fonctionnel, "
+              "cahier des besoins",
      .weak = ""},
     {.kind = DocumentKind::spec,
      .nouns = "cahier des charges, spécification, spécifications, exigences, fiche technique, "
-              "dossier technique, règles de gestion, besoins fonctionnels, cahiers des charges",
+              "dossier technique, règles de gestion, besoins fonctionnels, cahiers des charges, sfg, sfd",
      .weak = "besoins"},
     {.kind = DocumentKind::plan,
      .nouns = "plan, plan d'action, plan projet, plan stratégique, plan marketing, planning, calendrier, "
@@ -49,16 +50,17 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::checklist,
      .nouns = "liste de contrôle, liste de vérification, liste de tâches, liste des tâches, liste de courses, "
-              "à faire, checklist, checklists, check-list, points à vérifier, liste des courses",
+              "à faire, checklist, checklists, check-list, points à vérifier, liste des courses, "
+              "liste des choses",
      .weak = "tâches, liste, listes"},
     {.kind = DocumentKind::proposal,
      .nouns = "proposition, propositions, recommandation, recommandations, demande de subvention, "
               "demande de financement, réponse à appel d'offres, avant-projet, projet de recherche, "
-              "appel à projets",
+              "appel à projets, réponse à l'appel d'offres",
      .weak = ""},
     {.kind = DocumentKind::memo,
-     .nouns = "note de service, notes de service, note interne, mémo, pense-bête, notes personnelles, "
-              "bloc-notes, notes en vrac, idées en vrac, notes volantes",
+     .nouns = "note de service, notes de service, note interne, mémo, pense-bête, bloc-notes, notes en vrac, "
+              "idées en vrac",
      .weak = ""},
     {.kind = DocumentKind::presentation,
      .nouns = "présentation, présentations, diaporama, support de présentation, diapositives, exposé, "
@@ -68,7 +70,7 @@ constexpr Layered words[] = {
      .nouns = "document de conception, dossier de conception, conception, architecture technique, "
               "architecture logicielle, architecture applicative, dossier d'architecture, "
               "document d'architecture, schéma d'architecture, décision d'architecture, modèle de données, "
-              "schéma de base de données, choix techniques, diagramme de séquence",
+              "schéma de base de données, diagramme de séquence",
      .weak = ""},
     {.kind = DocumentKind::apiDoc,
      .nouns = "documentation api, documentation d'api, documentation de l'api, référence api, référence de l'api, "
@@ -101,13 +103,12 @@ constexpr Layered words[] = {
               "bonnes pratiques, documentation technique, documentation utilisateur, guide d'accueil, vademecum",
      .weak = "méthode, démarche, étapes"},
     {.kind = DocumentKind::data,
-     .nouns = "données, jeu de données, statistiques, chiffres clés, indicateurs, tableau de données, "
-              "tableau récapitulatif, tableau de suivi, liste des participants, liste des clients, annuaire, "
-              "base de données, inventaire, registre, fichier clients",
+     .nouns = "données, jeu de données, statistiques, chiffres clés, indicateurs, tableau de suivi, "
+              "liste des participants, liste des clients, annuaire, base de données, inventaire, registre, "
+              "fichier clients, tableau",
      .weak = ""},
     {.kind = DocumentKind::prompt,
-     .nouns = "prompt, prompts, prompt système, instructions système, bibliothèque de prompts, "
-              "instructions pour l'agent",
+     .nouns = "prompt, prompts, prompt système, bibliothèque de prompts, instructions pour l'agent",
      .weak = ""},
     {.kind = DocumentKind::design,
      .nouns = "maquette, maquettes, wireframe, wireframes, prototype interactif, parcours utilisateur, "
@@ -120,12 +121,12 @@ constexpr Layered words[] = {
     {.kind = DocumentKind::marketingCopy,
      .nouns = "texte publicitaire, accroche, accroches, slogan, slogans, page de vente, publicité, "
               "annonce publicitaire, dépliant, description produit, fiche produit, texte promotionnel, "
-              "textes publicitaires, affiche, prospectus",
+              "textes publicitaires, affiche, prospectus, textes de la page",
      .weak = ""},
     {.kind = DocumentKind::sales,
      .nouns = "offre, argumentaire, présentation commerciale, plaquette commerciale, catalogue, "
               "script de vente, cas client, grille tarifaire, script d'appel, dossier commercial, tarifs, "
-              "témoignage client",
+              "témoignage client, proposition commerciale",
      .weak = ""},
     {.kind = DocumentKind::pressRelease,
      .nouns = "communiqué de presse, communiqué, communiqués, dossier de presse",
@@ -137,11 +138,11 @@ constexpr Layered words[] = {
     {.kind = DocumentKind::socialPost,
      .nouns = "publication linkedin, publication instagram, publication facebook, post linkedin, "
               "post instagram, post facebook, publication réseaux sociaux, tweet, légende instagram, "
-              "fil twitter",
+              "fil twitter, publications",
      .weak = ""},
     {.kind = DocumentKind::businessPlan,
-     .nouns = "plan d'affaires, business plan, modèle économique, modèle d'affaires, plan de "
-              "développement, projet d'entreprise, étude de faisabilité",
+     .nouns = "plan d'affaires, business plan, modèle économique, modèle d'affaires, plan de développement, "
+              "étude de faisabilité",
      .weak = ""},
     {.kind = DocumentKind::finance,
      .nouns = "budget, budgets, budget prévisionnel, devis, facture, factures, bilan comptable, "
@@ -152,9 +153,9 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::legal,
      .nouns = "contrat, contrats, convention, conventions, accord, conditions générales, "
-              "conditions d'utilisation, mentions légales, politique de confidentialité, statuts, bail, "
-              "avenant, procuration, mise en demeure, licence, attestation, attestations, protocole d'accord, "
-              "cgv, cgu, projet de loi, testament, plainte, assignation, compromis de vente",
+              "conditions d'utilisation, mentions légales, statuts, bail, avenant, procuration, "
+              "mise en demeure, licence, attestation, attestations, protocole d'accord, cgv, cgu, "
+              "projet de loi, testament, plainte, assignation, compromis de vente",
      .weak = ""},
     {.kind = DocumentKind::policy,
      .nouns = "politique, politiques, règlement, règlements, charte, chartes, code de conduite, directive, "
@@ -173,8 +174,7 @@ constexpr Layered words[] = {
     {.kind = DocumentKind::email,
      .nouns = "courriel, courriels, lettre, courrier, mail de relance, e-mail de relance, "
               "mail de remerciement, e-mail de bienvenue, mail de bienvenue, mail de prospection, "
-              "e-mail de prospection, mail de confirmation, réponse au client, mail aux, mail d'excuses, "
-              "relance client",
+              "e-mail de prospection, mail de confirmation, réponse au client, mail d'excuses, relance client",
      .weak = "mail, mails, e-mail, e-mails"},
     {.kind = DocumentKind::faq,
      .nouns = "foire aux questions, questions fréquentes, faq, questions fréquemment posées, "
@@ -185,8 +185,9 @@ constexpr Layered words[] = {
               "récit de voyage, article blog",
      .weak = ""},
     {.kind = DocumentKind::script,
-     .nouns = "scénario, scénarios, discours, script vidéo, script de podcast, pièce de théâtre, "
-              "sous-titres, dialogue, dialogues, allocution, storyboard, éloge funèbre, script podcast",
+     .nouns = "scénario, scénarios, discours, script vidéo, script de podcast, pièce de théâtre, sous-titres, "
+              "dialogue, dialogues, allocution, storyboard, éloge funèbre, script podcast, "
+              "conducteur de l'émission",
      .weak = ""},
     {.kind = DocumentKind::essay,
      .nouns = "essai, essais, tribune, éditorial, édito, chronique, critique de film, critique littéraire, "
@@ -198,7 +199,7 @@ constexpr Layered words[] = {
               "histoire pour enfants, poème, poèmes, récit, récits, fable, paroles",
      .weak = ""},
     {.kind = DocumentKind::translation,
-     .nouns = "traduction, traductions, version française, version anglaise, version bilingue, texte traduit",
+     .nouns = "traduction, traductions, version française, version anglaise, texte traduit",
      .weak = ""},
     {.kind = DocumentKind::learning,
      .nouns = "cours, support de cours, supports de cours, plan de cours, programme de formation, "
@@ -225,16 +226,17 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::solutions,
      .nouns = "corrigé, corrigés, solution des exercices, éléments de correction, correction du, "
-              "correction des, correction exercices, solutions des exercices, réponses, barème",
+              "correction des, correction exercices, solutions des exercices, réponses, barème, "
+              "correction de l'examen",
      .weak = ""},
     {.kind = DocumentKind::quiz,
      .nouns = "qcm, sujet d'examen, devoir surveillé, interrogation, interro, contrôle de connaissances, "
               "épreuve, épreuves, partiel, bac blanc, dictée, sujet de bac, contrôle de mathématiques, "
-              "contrôle continu",
+              "contrôle continu, contrôle chapitre",
      .weak = "quiz, examen, examens, contrôle, contrôles"},
     {.kind = DocumentKind::errorNotes,
-     .nouns = "cahier d'erreurs, cahier des erreurs, carnet d'erreurs, analyse des erreurs, erreurs "
-              "fréquentes, relevé d'erreurs, mes erreurs",
+     .nouns = "cahier d'erreurs, cahier des erreurs, carnet d'erreurs, analyse des erreurs, relevé d'erreurs, "
+              "mes erreurs",
      .weak = ""},
     {.kind = DocumentKind::paper,
      .nouns = "mémoire, mémoires, thèse, thèses, article scientifique, articles scientifiques, article de recherche, "
@@ -246,16 +248,16 @@ constexpr Layered words[] = {
               "journal de voyage, carnet de voyage",
      .weak = ""},
     {.kind = DocumentKind::resume,
-     .nouns = "curriculum vitae, lettre de motivation, lettres de motivation, dossier de candidature, candidature, "
-              "candidatures, profil professionnel, dossier de compétences, lettre de recommandation, mon cv",
+     .nouns = "curriculum vitae, lettre de motivation, lettres de motivation, dossier de candidature, "
+              "candidature, candidatures, dossier de compétences, lettre de recommandation, mon cv",
      .weak = "cv"},
     {.kind = DocumentKind::travelPlan,
      .nouns = "itinéraire, voyage, programme de voyage, plan de voyage, planning de voyage, "
-              "programme de visite, séjour, circuit touristique, programme week-end",
+              "programme de visite, séjour, circuit touristique, programme week-end, programme du voyage",
      .weak = ""},
     {.kind = DocumentKind::recipe,
      .nouns = "recette, recettes, carnet de recettes, fiche recette, menu de la semaine, menus de la semaine, "
-              "idées de repas, plan de repas",
+              "plan de repas",
      .weak = ""},
 };
 

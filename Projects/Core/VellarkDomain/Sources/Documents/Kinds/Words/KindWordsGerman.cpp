@@ -22,7 +22,8 @@ constexpr Layered words[] = {
               "planung, strategie, roadmap, schichtplan, migrationsplan",
      .weak = ""},
     {.kind = DocumentKind::userStories,
-     .nouns = "user story, user stories, nutzergeschichte, anwendungsfall, anwendungsfälle, akzeptanzkriterien",
+     .nouns = "user story, user stories, nutzergeschichte, anwendungsfall, anwendungsfälle, "
+              "akzeptanzkriterien, nutzergeschichten",
      .weak = ""},
     {.kind = DocumentKind::meetingNotes,
      .nouns = "protokoll, protokolle, besprechungsnotiz, besprechungsnotizen, gesprächsnotiz, niederschrift, "
@@ -33,12 +34,12 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::research,
      .nouns = "recherche, marktforschung, marktanalyse, wettbewerbsanalyse, umfrage, studie, befragung, "
-              "fragebogen, literaturübersicht, umfrageergebnisse, interviewauswertung, zielgruppenanalyse",
+              "fragebogen, literaturübersicht, umfrageergebnisse, interviewauswertung, zielgruppenanalyse, "
+              "vergleich",
      .weak = ""},
     {.kind = DocumentKind::retrospective, .nouns = "retrospektive, rückblick, lessons learned, reflexion", .weak = ""},
     {.kind = DocumentKind::checklist,
-     .nouns = "checkliste, aufgabenliste, to-do-liste, todoliste, einkaufsliste, packliste, wunschliste, "
-              "prüfliste",
+     .nouns = "checkliste, aufgabenliste, to-do-liste, todoliste, einkaufsliste, packliste, prüfliste",
      .weak = "aufgaben"},
     {.kind = DocumentKind::proposal,
      .nouns = "vorschlag, antrag, empfehlung, entscheidungsvorlage, beschlussvorlage, ausschreibung",
@@ -49,13 +50,12 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::designDoc,
      .nouns = "architektur, architekturkonzept, architekturentscheidung, technisches konzept, feinkonzept, "
-              "systementwurf, datenbankentwurf, datenmodell, datenbankschema, klassendiagramm, "
-              "berechtigungskonzept, architekturentwurf, architekturdokument, technisches design, "
-              "entwurfsdokument, ablaufdiagramm, grobkonzept",
+              "systementwurf, datenbankentwurf, datenmodell, datenbankschema, architekturentwurf, "
+              "architekturdokument, technisches design, entwurfsdokument, ablaufdiagramm, grobkonzept",
      .weak = ""},
     {.kind = DocumentKind::apiDoc,
      .nouns = "api-dokumentation, api-referenz, api-spezifikation, schnittstellenbeschreibung, "
-              "schnittstellendokumentation, schnittstellenspezifikation",
+              "schnittstellendokumentation, schnittstellenspezifikation, schnittstellenreferenz",
      .weak = ""},
     {.kind = DocumentKind::testPlan,
      .nouns = "testplan, testkonzept, testfall, testfälle, teststrategie, testprotokoll, testszenario, "
@@ -64,10 +64,10 @@ constexpr Layered words[] = {
     {.kind = DocumentKind::bugReport,
      .nouns = "fehlerbericht, fehlermeldung, fehlerbeschreibung, bugreport, störungsmeldung, fehlerliste",
      .weak = ""},
-    {.kind = DocumentKind::codeReview, .nouns = "code review, code-überprüfung", .weak = ""},
+    {.kind = DocumentKind::codeReview, .nouns = "code review, codedurchsicht", .weak = ""},
     {.kind = DocumentKind::postmortem,
      .nouns = "postmortem, störungsbericht, vorfallsbericht, ausfallbericht, incident-bericht, "
-              "ursachenanalyse, fehleranalyse, unfallbericht",
+              "ursachenanalyse, fehleranalyse, unfallbericht, vorfallanalyse",
      .weak = ""},
     {.kind = DocumentKind::changelog,
      .nouns = "changelog, release notes, änderungsprotokoll, änderungsverlauf, änderungshistorie, "
@@ -76,19 +76,19 @@ constexpr Layered words[] = {
     {.kind = DocumentKind::guide,
      .nouns = "anleitung, handbuch, leitfaden, guide, einführung, dokumentation, tutorial, ratgeber, "
               "gebrauchsanweisung, arbeitsanweisung, erste schritte, einarbeitungsplan, verfahrensanweisung, "
-              "prozessbeschreibung, anleitungen",
+              "prozessbeschreibung, anleitungen, schritt-für-schritt-anleitung",
      .weak = ""},
     {.kind = DocumentKind::data,
-     .nouns = "daten, datensatz, tabelle, statistik, statistiken, kennzahlen, messprotokoll, messwerte, liste, "
-              "inventar",
+     .nouns = "daten, datensatz, tabelle, statistik, statistiken, kennzahlen, messwerte, liste, inventar",
      .weak = ""},
     {.kind = DocumentKind::prompt, .nouns = "prompt, prompts, systemprompt, prompt-vorlage", .weak = ""},
     {.kind = DocumentKind::design,
-     .nouns = "designentwurf, wireframe, wireframes, mockup, mockups, prototyp, logoentwurf, skizze",
+     .nouns = "designentwurf, wireframe, wireframes, mockup, mockups, prototyp, logoentwurf, skizze, entwürfe, "
+              "ui-entwurf",
      .weak = ""},
     {.kind = DocumentKind::designSystem,
-     .nouns = "designsystem, design system, styleguide, gestaltungsrichtlinie, gestaltungsrichtlinien, "
-              "designrichtlinien, markenhandbuch",
+     .nouns = "designsystem, design system, styleguide, gestaltungsrichtlinien, designrichtlinien, "
+              "markenhandbuch, design-handbuch",
      .weak = ""},
     {.kind = DocumentKind::marketingCopy,
      .nouns = "werbetext, werbetexte, anzeigentext, slogan, produktbeschreibung, produkttext, broschüre, "
@@ -96,7 +96,7 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::sales,
      .nouns = "angebot, verkaufsunterlagen, vertriebsunterlagen, vertriebspräsentation, verkaufspräsentation, "
-              "unternehmenspräsentation, produktkatalog, preisliste, katalog, angebote",
+              "unternehmenspräsentation, produktkatalog, preisliste, katalog, angebote, verkaufsleitfaden",
      .weak = ""},
     {.kind = DocumentKind::pressRelease,
      .nouns = "pressemitteilung, pressemeldung, presseinformation, pressetext, medienmitteilung, pressemappe, "
@@ -110,8 +110,7 @@ constexpr Layered words[] = {
               "linkedin-post, instagram-beitrag, instagram-post, tweet, facebook-beitrag",
      .weak = ""},
     {.kind = DocumentKind::businessPlan,
-     .nouns = "geschäftsplan, businessplan, business plan, geschäftsmodell, geschäftskonzept, geschäftsidee, "
-              "gründungskonzept",
+     .nouns = "geschäftsplan, businessplan, business plan, geschäftsmodell, geschäftskonzept, gründungskonzept",
      .weak = ""},
     {.kind = DocumentKind::finance,
      .nouns = "budget, budgetplan, finanzplan, kostenplan, haushaltsplan, rechnung, rechnungen, abrechnung, "
@@ -120,39 +119,39 @@ constexpr Layered words[] = {
               "kontoauszug, gutschrift, bestellung, kassenbuch",
      .weak = ""},
     {.kind = DocumentKind::legal,
-     .nouns = "vertrag, vereinbarung, agb, allgemeine geschäftsbedingungen, nutzungsbedingungen, "
-              "datenschutzerklärung, vollmacht, kündigung, lizenz, satzung, klage, einverständniserklärung, "
-              "widerspruch, übergabeprotokoll, abnahmeprotokoll, impressum, bescheinigung, abmahnung, "
-              "patientenverfügung, bürgschaft, verträge",
+     .nouns = "vertrag, vereinbarung, agb, allgemeine geschäftsbedingungen, nutzungsbedingungen, vollmacht, "
+              "kündigung, lizenz, satzung, klage, einverständniserklärung, widerspruch, übergabeprotokoll, "
+              "abnahmeprotokoll, impressum, bescheinigung, abmahnung, patientenverfügung, bürgschaft, "
+              "verträge, klageschrift",
      .weak = ""},
     {.kind = DocumentKind::policy,
      .nouns = "richtlinie, richtlinien, leitlinie, leitlinien, regelung, regelungen, regeln, vorschrift, "
               "vorschriften, hausordnung, geschäftsordnung, betriebsvereinbarung, verhaltenskodex, "
-              "dienstanweisung, leitbild, sicherheitskonzept, datenschutzkonzept, prüfungsordnung, "
-              "schulordnung, regelwerk",
+              "dienstanweisung, leitbild, prüfungsordnung, schulordnung, regelwerk, datenschutzerklärung",
      .weak = ""},
     {.kind = DocumentKind::notice,
      .nouns = "mitteilung, bekanntmachung, ankündigung, rundschreiben, einladung, hinweis, hinweise, aushang, "
-              "elternbrief, merkblatt, informationsschreiben, infoschreiben, benachrichtigung",
+              "elternbrief, merkblatt, informationsschreiben, infoschreiben, benachrichtigung, "
+              "elterninformation",
      .weak = ""},
     {.kind = DocumentKind::jobPosting,
-     .nouns = "stellenanzeige, stellenausschreibung, stellenangebot, stellenbeschreibung, anforderungsprofil, "
-              "jobprofil",
+     .nouns = "stellenanzeige, stellenausschreibung, stellenangebot, stellenbeschreibung, jobprofil",
      .weak = ""},
     {.kind = DocumentKind::email,
      .nouns = "geschäftsbrief, begleitschreiben, dankschreiben, kündigungsschreiben, antwortschreiben, "
-              "beschwerdebrief, dankesmail, rundmail, willkommensmail, mail an, anfrage",
+              "beschwerdebrief, rundmail, willkommensmail, mail an, anfrage, antwortmail, e-mail-entwurf, "
+              "anschreiben",
      .weak = "mail, mails, e-mail"},
     {.kind = DocumentKind::faq,
-     .nouns = "häufige fragen, häufig gestellte fragen, faq, fragen und antworten, fragenkatalog",
+     .nouns = "häufige fragen, häufig gestellte fragen, faq, fragen und antworten",
      .weak = ""},
     {.kind = DocumentKind::blogPost,
      .nouns = "blogbeitrag, blogeintrag, blogpost, gastbeitrag, artikel, erfahrungsbericht, reisebericht, "
               "reportage",
      .weak = ""},
     {.kind = DocumentKind::script,
-     .nouns = "drehbuch, rede, sprechtext, videoskript, theaterstück, untertitel, ansprache, grußwort, "
-              "podcast-skript, hörspiel, moderationstext, sprechertext",
+     .nouns = "drehbuch, rede, sprechtext, videoskript, theaterstück, untertitel, ansprache, podcast-skript, "
+              "hörspiel, moderationstext, sprechertext",
      .weak = ""},
     {.kind = DocumentKind::essay,
      .nouns = "essay, aufsatz, kolumne, kommentar, rezension, leitartikel, erörterung, filmkritik, "
@@ -161,14 +160,12 @@ constexpr Layered words[] = {
     {.kind = DocumentKind::story,
      .nouns = "kurzgeschichte, roman, märchen, erzählung, gedicht, fabel, liedtext",
      .weak = ""},
-    {.kind = DocumentKind::translation,
-     .nouns = "übersetzung, deutsche fassung, englische fassung, lokalisierung",
-     .weak = ""},
+    {.kind = DocumentKind::translation, .nouns = "übersetzung, englische fassung, lokalisierung", .weak = ""},
     {.kind = DocumentKind::learning,
-     .nouns = "lehrplan, lehrmaterial, lehrmaterialien, lernmaterial, unterrichtsmaterial, "
-              "unterrichtsmaterialien, unterrichtsentwurf, unterrichtsplanung, stundenentwurf, "
-              "schulungsunterlagen, kursunterlagen, lehrbuch, modulhandbuch, stoffverteilungsplan, "
-              "seminarplan, arbeitsheft, lernplan, schulungskonzept",
+     .nouns = "lehrplan, lehrmaterial, lernmaterial, unterrichtsmaterial, unterrichtsmaterialien, "
+              "unterrichtsentwurf, unterrichtsplanung, stundenentwurf, schulungsunterlagen, kursunterlagen, "
+              "lehrbuch, modulhandbuch, stoffverteilungsplan, seminarplan, arbeitsheft, lernplan, "
+              "schulungskonzept",
      .weak = ""},
     {.kind = DocumentKind::lectureNotes, .nouns = "mitschrift, vorlesungsnotizen, vorlesungsskript", .weak = ""},
     {.kind = DocumentKind::studyNotes,
@@ -176,7 +173,8 @@ constexpr Layered words[] = {
               "vokabeln, formelsammlung, lernkarten, spickzettel, zusammenfassung",
      .weak = ""},
     {.kind = DocumentKind::readingNotes,
-     .nouns = "lesenotizen, buchzusammenfassung, lesetagebuch, exzerpt, inhaltsangabe, leseprotokoll",
+     .nouns = "lesenotizen, buchzusammenfassung, lesetagebuch, exzerpt, inhaltsangabe, leseprotokoll, "
+              "lektürenotizen",
      .weak = ""},
     {.kind = DocumentKind::exercises,
      .nouns = "übungsaufgabe, übungsaufgaben, übung, übungen, übungsblatt, übungsblätter, arbeitsblatt, "
@@ -196,8 +194,8 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::journal, .nouns = "tagebuch, tagebucheintrag, logbuch", .weak = ""},
     {.kind = DocumentKind::resume,
-     .nouns = "lebenslauf, bewerbung, bewerbungsschreiben, anschreiben, motivationsschreiben, "
-              "bewerbungsunterlagen, empfehlungsschreiben, arbeitszeugnis",
+     .nouns = "lebenslauf, bewerbung, bewerbungsschreiben, motivationsschreiben, bewerbungsunterlagen, "
+              "empfehlungsschreiben, arbeitszeugnis",
      .weak = ""},
     {.kind = DocumentKind::travelPlan,
      .nouns = "reiseplan, reiseplanung, reiseroute, reiseverlauf, reiseprogramm, urlaubsplan, urlaubsplanung",

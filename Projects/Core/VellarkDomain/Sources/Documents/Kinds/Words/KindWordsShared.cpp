@@ -163,7 +163,8 @@ constexpr auto rows = std::to_array<Shared>({
                  "januar, februar, märz, mai, juni, juli, oktober, dezember, janvier, février, mars, avril, juin, "
                  "juillet, août, septembre, octobre, novembre, décembre, enero, febrero, marzo, abril, mayo, "
                  "junio, julio, agosto, septiembre, octubre, noviembre, diciembre, kapitel, chapitre, capítulo, "
-                 "tema, kw, semaine, semana, folge, ausgabe, teil, épisode, episodio, 文面, 図, 文, 用紙, 文言",
+                 "tema, kw, semaine, semana, folge, ausgabe, teil, épisode, episodio, 文面, 図, 文, 用紙, 文言, "
+                 "оны, сарын, анги, хавар, зун, намар, өвөл, улирлын, жил",
      .cues = ""},
     {.kinds = anyOf<journal, changelog>,
      .names = "일지, 작업 일지, 개발 일지, 운동 일지, 실험 일지, 연구 일지, 작업 로그, work log, dev log, "

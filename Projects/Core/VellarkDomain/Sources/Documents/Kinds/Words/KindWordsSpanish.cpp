@@ -20,7 +20,7 @@ constexpr std::array<Layered, 55> words{{
     {DocumentKind::spec,
      "especificación, especificaciones, pliego de condiciones, requisitos, requerimientos, "
      "análisis de requisitos, análisis funcional, definición funcional, ficha técnica, "
-     "términos de referencia, fichas técnicas, documento de requisitos, pliego de",
+     "términos de referencia, fichas técnicas, documento de requisitos, pliego de, ers",
      ""},
     {DocumentKind::plan,
      "plan, planes, planificación, hoja de ruta, roadmap, cronograma, calendario, estrategia, "
@@ -29,13 +29,12 @@ constexpr std::array<Layered, 55> words{{
      "programación anual, agenda semanal, cuadrante",
      ""},
     {DocumentKind::userStories,
-     "historias de usuario, historia de usuario, casos de uso, caso de uso, épicas, criterios de aceptación, "
-     "backlog del producto, mapa de historias",
+     "historias de usuario, historia de usuario, casos de uso, caso de uso, épicas, "
+     "criterios de aceptación, backlog del producto, hu",
      ""},
     {DocumentKind::meetingNotes,
      "acta, minuta, notas de reunión, notas de la reunión, resumen de la reunión, resumen de reunión, "
-     "orden del día, agenda de la reunión, resumen de la llamada, agenda de reunión, "
-     "acuerdos de la reunión, actas",
+     "orden del día, agenda de la reunión, acuerdos de la reunión, actas",
      ""},
     {DocumentKind::report,
      "informe, informes, reporte, reportes, análisis, resumen ejecutivo, resumen semanal, "
@@ -62,7 +61,8 @@ constexpr std::array<Layered, 55> words{{
      "propuesta, anteproyecto, solicitud de subvención, borrador de propuesta, solicitud de beca, "
      "solicitud de financiación, licitación, oferta técnica, recomendaciones",
      ""},
-    {DocumentKind::memo, "memorando, memo, nota, notas, recordatorio, lluvia de ideas, memorándum", ""},
+    {DocumentKind::memo, "memorando, memo, nota, notas, recordatorio, lluvia de ideas, memorándum, apuntes rápidos",
+     ""},
     {DocumentKind::presentation, "presentación, diapositivas, ponencia, charla, exposición", ""},
     {DocumentKind::designDoc,
      "documento de diseño, diseño técnico, diseño de arquitectura, diseño del sistema, "
@@ -72,11 +72,11 @@ constexpr std::array<Layered, 55> words{{
      ""},
     {DocumentKind::apiDoc,
      "documentación de la api, documentación de api, referencia de la api, referencia de api, "
-     "especificación de la api, guía de la api, referencia api",
+     "especificación de la api, guía de la api, referencia api, referencia de endpoints",
      ""},
     {DocumentKind::testPlan,
-     "plan de pruebas, casos de prueba, caso de prueba, estrategia de pruebas, plan de validación, "
-     "pruebas de aceptación, pruebas de regresión, pruebas de integración, matriz de pruebas",
+     "plan de pruebas, casos de prueba, caso de prueba, estrategia de pruebas, pruebas de aceptación, "
+     "pruebas de regresión, matriz de pruebas",
      "pruebas"},
     {DocumentKind::bugReport,
      "informe de errores, reporte de error, reporte de errores, reporte de bug, informe de bug, "
@@ -97,14 +97,15 @@ constexpr std::array<Layered, 55> words{{
      "guía, manual, instrucciones, tutorial, instructivo, manual técnico, manual práctico, "
      "cómo instalar, cómo configurar, cómo usar, cómo hacer, primeros pasos, procedimiento, "
      "protocolo, buenas prácticas, documentación, solución de problemas, léeme, procedimientos, "
-     "protocolos, consejos, manuales, guías",
+     "protocolos, consejos, manuales, guías, tutorial paso a paso",
      ""},
     {DocumentKind::data,
      "datos, conjunto de datos, tabla, hoja de cálculo, estadísticas, métricas, indicadores, "
      "inventario, listado, lista de contactos, lista de clientes, base de datos, directorio, "
      "registro de asistencia, padrón",
      ""},
-    {DocumentKind::prompt, "prompt, prompts, instrucciones para la ia, instrucciones del sistema", ""},
+    {DocumentKind::prompt, "prompt, prompts, instrucciones para la ia, instrucciones del sistema, plantilla de prompts",
+     ""},
     {DocumentKind::design,
      "diseño, diseños, maqueta, maquetas, prototipo, prototipos, boceto, wireframe, mockup, "
      "flujo de usuario, rediseño, wireframes, bocetos, mapa de experiencia",
@@ -117,12 +118,12 @@ constexpr std::array<Layered, 55> words{{
     {DocumentKind::marketingCopy,
      "texto publicitario, textos publicitarios, copy publicitario, copy de, anuncio publicitario, "
      "eslogan, eslóganes, folleto, descripción de producto, descripción del producto, "
-     "página de aterrizaje, página de ventas, texto para, tríptico",
+     "página de aterrizaje, página de ventas, texto para, tríptico, copys",
      ""},
     {DocumentKind::sales,
      "material de ventas, argumentario, presentación comercial, presentación de ventas, "
      "oferta comercial, dossier comercial, catálogo, lista de precios, tarifas, caso de éxito, "
-     "casos de éxito, guion de llamada, dossier de empresa",
+     "casos de éxito, guion de llamada, dossier de empresa, propuesta comercial",
      ""},
     {DocumentKind::pressRelease,
      "nota de prensa, comunicado de prensa, dossier de prensa, boletín de prensa, "
@@ -132,12 +133,10 @@ constexpr std::array<Layered, 55> words{{
     {DocumentKind::socialPost,
      "publicación en redes sociales, publicación de instagram, publicación de linkedin, "
      "post de instagram, post para, hilo de twitter, tuit, publicaciones redes sociales, "
-     "post de linkedin, publicación en instagram, pie de foto",
+     "post de linkedin, publicación en instagram, pie de foto, publicación para, publicaciones",
      ""},
     {DocumentKind::businessPlan,
-     "plan de negocio, plan de negocios, plan de empresa, modelo de negocio, "
-     "lienzo de modelo de negocio, plan de viabilidad",
-     ""},
+     "plan de negocio, plan de negocios, plan de empresa, modelo de negocio, plan de viabilidad", ""},
     {DocumentKind::finance,
      "presupuesto, factura, cotización, recibo, nómina, estado de cuenta, estado de resultados, "
      "balance general, cuentas anuales, flujo de caja, plan financiero, informe financiero, "
@@ -151,7 +150,7 @@ constexpr std::array<Layered, 55> words{{
      "condiciones generales, términos de uso, aviso legal, aviso de privacidad, borrador de contrato, "
      "licencia, sentencia, poder notarial, estatutos, cláusulas, informe jurídico, certificado, "
      "demanda, testamento, consentimiento informado, escritura, declaración jurada, autorización, "
-     "denuncia, pacto de socios, política de privacidad, contratos",
+     "denuncia, pacto de socios, contratos",
      ""},
     {DocumentKind::policy,
      "política, reglamento, normativa, normas, reglas, código de conducta, código ético, "
@@ -170,7 +169,8 @@ constexpr std::array<Layered, 55> words{{
      "correo electrónico, correo de bienvenida, correo de seguimiento, correo para, correo a, "
      "email de, email para, borrador de correo, plantilla de correo, respuesta al cliente, "
      "carta de renuncia, carta de agradecimiento, mensaje para, mensaje de bienvenida, "
-     "carta de reclamación, correo de agradecimiento, carta a, carta de disculpa, correo de disculpa",
+     "carta de reclamación, correo de agradecimiento, carta a, carta de disculpa, correo de disculpa, "
+     "borrador de email",
      "carta, cartas, correo, correos"},
     {DocumentKind::faq,
      "preguntas frecuentes, pregunta frecuente, preguntas y respuestas, preguntas más frecuentes, "
@@ -185,8 +185,8 @@ constexpr std::array<Layered, 55> words{{
      "obra de teatro, locución, pregón",
      "diálogo"},
     {DocumentKind::essay,
-     "ensayo, artículo de opinión, columna de opinión, columna semanal, reseña, reseñas, crítica, "
-     "críticas, comentario de texto, análisis literario, redacción, texto argumentativo, reflexión",
+     "ensayo, artículo de opinión, columna de opinión, reseña, reseñas, crítica, críticas, "
+     "comentario de texto, análisis literario, redacción, reflexión",
      ""},
     {DocumentKind::story,
      "cuento, relato, novela, microrrelato, poema, poesía, poemario, fábula, historia corta, "
@@ -205,13 +205,13 @@ constexpr std::array<Layered, 55> words{{
      ""},
     {DocumentKind::lectureNotes,
      "apuntes de clase, apuntes del curso, notas de clase, notas del curso, resumen de la clase, "
-     "notas del seminario",
+     "notas del seminario, apuntes de la clase",
      "clase, clases"},
     {DocumentKind::studyNotes,
      "apuntes, notas de estudio, resumen del tema, resumen para el examen, esquema del tema, "
      "tarjetas de estudio, mapa conceptual, mapa mental, repaso, guía de estudio, vocabulario, "
      "resumen tema, esquema de estudio, ficha de repaso, esquema, chuleta, fichas de repaso, "
-     "tarjetas de memoria, esquemas",
+     "tarjetas de memoria, esquemas, resumen para estudiar",
      ""},
     {DocumentKind::readingNotes,
      "notas de lectura, apuntes de lectura, ficha de lectura, fichas de lectura, resumen del libro, "
@@ -236,8 +236,8 @@ constexpr std::array<Layered, 55> words{{
      "autoevaluación, prueba de matemáticas, prueba de evaluación",
      "prueba"},
     {DocumentKind::errorNotes,
-     "cuaderno de errores, libreta de errores, diario de errores, notas de errores, "
-     "errores del examen, mis errores, registro de errores, errores frecuentes",
+     "cuaderno de errores, libreta de errores, diario de errores, notas de errores, mis errores, "
+     "registro de errores, errores frecuentes",
      ""},
     {DocumentKind::paper,
      "tesis, tesina, trabajo de fin de grado, trabajo fin de grado, trabajo de fin de máster, "
@@ -245,9 +245,7 @@ constexpr std::array<Layered, 55> words{{
      "tfg, tfm, artículo científico, artículos científicos, artículo académico, artículo de "
      "investigación, disertación, monografía, proyecto de investigación, marco teórico",
      ""},
-    {DocumentKind::journal,
-     "diario, mi diario, entrada de diario, entrada del diario, bitácora, reflexión diaria, "
-     "reflexión personal, reflexiones personales",
+    {DocumentKind::journal, "diario, mi diario, entrada de diario, entrada del diario, bitácora, reflexión personal",
      ""},
     {DocumentKind::resume,
      "currículum, curriculum vitae, hoja de vida, carta de presentación, cartas de presentación, "
@@ -256,8 +254,7 @@ constexpr std::array<Layered, 55> words{{
      ""},
     {DocumentKind::travelPlan,
      "plan de viaje, plan de vacaciones, itinerario, ruta de viaje, guía de viaje, programa de viaje, "
-     "programa del viaje, planificación del viaje, presupuesto de viaje, lista de equipaje, ruta por, "
-     "viaje a, excursión",
+     "programa del viaje, planificación del viaje, lista de equipaje, ruta por, viaje a, excursión",
      "viaje, viajes"},
     {DocumentKind::recipe,
      "receta, recetas, recetario, libro de recetas, libro de cocina, menú semanal, plan de comidas, "

@@ -22,20 +22,18 @@ constexpr std::array<Layered, 55> words{{
      ""},
     {DocumentKind::plan,
      "kế hoạch, bản kế hoạch, lộ trình, chiến lược, thời gian biểu, thời khóa biểu, "
-     "lịch làm việc, lịch trình dự án, mục tiêu, bảng kế hoạch, tiến độ dự án, "
-     "lịch công tác, lịch trình công tác",
+     "lịch làm việc, mục tiêu, tiến độ dự án, lịch công tác, lịch trình công tác, kh, "
+     "lịch trực, lịch thi, lịch trình công việc",
      ""},
     {DocumentKind::userStories,
-     "câu chuyện người dùng, trường hợp sử dụng, tiêu chí chấp nhận, tiêu chí nghiệm thu, ca "
-     "sử dụng",
+     "câu chuyện người dùng, trường hợp sử dụng, tiêu chí chấp nhận, tiêu chí nghiệm thu, "
+     "ca sử dụng, user story",
      ""},
     {DocumentKind::meetingNotes,
-     "biên bản, ghi chú cuộc họp, ghi chú họp, nội dung cuộc họp, tóm tắt cuộc họp, chương trình họp, "
-     "ghi chép cuộc họp, kết luận cuộc họp",
+     "biên bản, ghi chú cuộc họp, ghi chú họp, nội dung cuộc họp, tóm tắt cuộc họp, "
+     "chương trình họp, ghi chép cuộc họp, bb họp, bb",
      ""},
-    {DocumentKind::report,
-     "báo cáo, bản báo cáo, phân tích, đánh giá, tổng kết, kiểm toán, bài báo cáo, sơ kết, bản "
-     "đánh giá",
+    {DocumentKind::report, "báo cáo, bản báo cáo, phân tích, đánh giá, tổng kết, kiểm toán, bài báo cáo, sơ kết, bc",
      ""},
     {DocumentKind::research,
      "nghiên cứu, bài nghiên cứu, khảo sát, phân tích thị trường, phân tích đối thủ, "
@@ -46,28 +44,27 @@ constexpr std::array<Layered, 55> words{{
      "rút kinh nghiệm, bài học kinh nghiệm, tổng kết dự án, tổng kết sprint, bài học rút ra, nhìn lại", ""},
     {DocumentKind::checklist,
      "danh sách kiểm tra, bảng kiểm, danh sách công việc, việc cần làm, "
-     "danh sách việc cần làm, danh sách mua sắm, công việc cần làm",
+     "danh sách việc cần làm, danh sách mua sắm, công việc cần làm, checklist",
      ""},
-    {DocumentKind::proposal, "đề xuất, bản đề xuất, tờ trình, đề án, phương án, kiến nghị", ""},
+    {DocumentKind::proposal, "đề xuất, tờ trình, đề án, phương án, kiến nghị, hồ sơ đề xuất, hồ sơ dự thầu", ""},
     {DocumentKind::memo, "ghi chú, ghi nhớ, ghi chép, lời nhắc, bản ghi nhớ", ""},
     {DocumentKind::presentation,
-     "bài thuyết trình, thuyết trình, bản trình bày, bài trình bày, slide thuyết trình, tham luận, "
-     "slide báo cáo",
+     "bài thuyết trình, thuyết trình, bản trình bày, bài trình bày, slide thuyết trình, "
+     "tham luận, bản trình chiếu",
      ""},
     {DocumentKind::designDoc,
      "tài liệu thiết kế, thiết kế hệ thống, thiết kế kỹ thuật, thiết kế phần mềm, "
-     "thiết kế cơ sở dữ liệu, thiết kế api, kiến trúc hệ thống, kiến trúc phần mềm, "
-     "mô hình dữ liệu, sơ đồ kiến trúc, sơ đồ lớp, giải pháp kỹ thuật, lưu đồ",
+     "thiết kế cơ sở dữ liệu, mô hình dữ liệu, sơ đồ kiến trúc, giải pháp kỹ thuật, "
+     "lưu đồ, kiến trúc",
      ""},
     {DocumentKind::apiDoc, "tài liệu api, đặc tả api, hướng dẫn api, tài liệu tích hợp api, mô tả api", ""},
     {DocumentKind::testPlan,
-     "kế hoạch kiểm thử, kế hoạch test, trường hợp kiểm thử, kịch bản kiểm thử, kịch bản test, tài liệu kiểm thử, "
-     "ca kiểm thử, chiến lược kiểm thử",
+     "kế hoạch kiểm thử, kế hoạch test, trường hợp kiểm thử, kịch bản kiểm thử, "
+     "kịch bản test, tài liệu kiểm thử, ca kiểm thử",
      ""},
-    {DocumentKind::bugReport, "báo cáo lỗi, báo lỗi, danh sách lỗi, báo cáo bug, lỗi đăng nhập, mô tả lỗi", ""},
+    {DocumentKind::bugReport, "báo cáo lỗi, báo lỗi, danh sách lỗi, mô tả lỗi", ""},
     {DocumentKind::codeReview, "đánh giá mã nguồn, đánh giá code, kiểm tra mã nguồn, nhận xét code, review code", ""},
-    {DocumentKind::postmortem,
-     "báo cáo sự cố, phân tích sự cố, tổng kết sự cố, điều tra sự cố, phân tích nguyên nhân gốc rễ", ""},
+    {DocumentKind::postmortem, "báo cáo sự cố, phân tích sự cố, điều tra sự cố, phân tích nguyên nhân gốc rễ", ""},
     {DocumentKind::changelog,
      "nhật ký thay đổi, lịch sử thay đổi, lịch sử phiên bản, lịch sử cập nhật, "
      "ghi chú phát hành, ghi chú phiên bản, nội dung cập nhật",
@@ -75,37 +72,39 @@ constexpr std::array<Layered, 55> words{{
     {DocumentKind::guide,
      "hướng dẫn, tài liệu hướng dẫn, sách hướng dẫn, cẩm nang, sổ tay, quy trình, "
      "cách sử dụng, cách cài đặt, cách dùng, tài liệu kỹ thuật, khắc phục sự cố, "
-     "xử lý sự cố, thủ tục, bài hướng dẫn, các bước, mẹo vặt",
+     "xử lý sự cố, thủ tục, các bước, hdsd",
      ""},
     {DocumentKind::data,
-     "dữ liệu, bộ dữ liệu, số liệu, bảng tính, thống kê, bảng thống kê, danh sách, bảng điểm, bảng chấm công, "
-     "bảng số liệu, danh bạ, bảng dữ liệu",
+     "dữ liệu, bộ dữ liệu, số liệu, thống kê, bảng thống kê, danh sách, bảng điểm, "
+     "bảng chấm công, bảng số liệu, danh bạ, bảng dữ liệu",
      ""},
-    {DocumentKind::prompt, "prompt, câu lệnh ai, mẫu prompt, bộ prompt, prompt viết, prompt tạo", ""},
+    {DocumentKind::prompt, "prompt, bộ prompt, prompt viết, prompt tạo, câu lệnh", ""},
     {DocumentKind::design,
-     "thiết kế, bản thiết kế, bản vẽ, phác thảo, nguyên mẫu, giao diện, chân dung người dùng, "
-     "hành trình khách hàng, chân dung khách hàng, mẫu thiết kế",
+     "thiết kế, bản thiết kế, bản vẽ, phác thảo, nguyên mẫu, giao diện, "
+     "chân dung người dùng, hành trình khách hàng, chân dung khách hàng, mockup màn hình, "
+     "wireframe màn hình",
      ""},
     {DocumentKind::designSystem,
      "hệ thống thiết kế, bộ nhận diện thương hiệu, nhận diện thương hiệu, hướng dẫn thương hiệu, "
      "quy chuẩn thiết kế, hướng dẫn thiết kế, cẩm nang thương hiệu",
      ""},
     {DocumentKind::marketingCopy,
-     "bài quảng cáo, nội dung quảng cáo, quảng cáo, bài viết quảng cáo, khẩu hiệu, tờ rơi, mô tả sản phẩm, "
-     "bài viết bán hàng, content bán hàng, content quảng cáo, bài pr",
+     "bài quảng cáo, nội dung quảng cáo, quảng cáo, bài viết quảng cáo, khẩu hiệu, tờ rơi, "
+     "mô tả sản phẩm, bài viết bán hàng, content bán hàng, content quảng cáo, slogan",
      ""},
     {DocumentKind::sales,
-     "tài liệu bán hàng, hồ sơ năng lực, kịch bản bán hàng, kịch bản telesale, bảng giá, thư "
-     "chào hàng, thư ngỏ, chào hàng",
+     "tài liệu bán hàng, hồ sơ năng lực, kịch bản bán hàng, bảng giá, thư chào hàng, thư ngỏ, "
+     "chào hàng, hồ sơ chào hàng, kịch bản chốt sale",
      ""},
-    {DocumentKind::pressRelease, "thông cáo, bài thông cáo báo chí", ""},
-    {DocumentKind::newsletter, "bản tin, điểm tin", ""},
+    {DocumentKind::pressRelease, "thông cáo, bài thông cáo báo chí, tcbc", ""},
+    {DocumentKind::newsletter, "bản tin", ""},
     {DocumentKind::socialPost,
-     "bài đăng, bài post, bài viết facebook, bài viết linkedin, bài viết mạng xã hội, "
-     "nội dung mạng xã hội, caption facebook",
+     "bài đăng, bài post, bài viết facebook, bài viết mạng xã hội, nội dung mạng xã hội, "
+     "caption instagram, status facebook",
      ""},
     {DocumentKind::businessPlan,
-     "kế hoạch kinh doanh, bản kế hoạch kinh doanh, mô hình kinh doanh, phương án kinh doanh, kế hoạch khởi nghiệp",
+     "kế hoạch kinh doanh, bản kế hoạch kinh doanh, mô hình kinh doanh, phương án kinh doanh, "
+     "đề án kinh doanh",
      ""},
     {DocumentKind::finance,
      "ngân sách, dự toán, hóa đơn, hoá đơn, báo giá, bảng báo giá, báo cáo tài chính, "
@@ -117,50 +116,58 @@ constexpr std::array<Layered, 55> words{{
      "hợp đồng, mẫu hợp đồng, dự thảo hợp đồng, thỏa thuận, thoả thuận, điều khoản, "
      "giấy ủy quyền, đơn khởi kiện, biên bản ghi nhớ, biên bản nghiệm thu, "
      "biên bản bàn giao, giấy phép, điều lệ, bản cam kết, nghị định, phụ lục hợp đồng, "
-     "bản án, giấy uỷ quyền, biên bản thanh lý, chính sách bảo mật, cam kết, di chúc",
+     "bản án, giấy uỷ quyền, biên bản thanh lý, cam kết, di chúc",
      ""},
-    {DocumentKind::policy, "chính sách, quy định, quy chế, nội quy, quy tắc, tiêu chuẩn, quyết định, nghị quyết", ""},
-    {DocumentKind::notice, "thông báo, bản thông báo, giấy mời, thư mời, thiệp mời", ""},
+    {DocumentKind::policy,
+     "chính sách, quy định, quy chế, nội quy, quy tắc, tiêu chuẩn, quyết định, nghị quyết, "
+     "bộ quy tắc",
+     ""},
+    {DocumentKind::notice, "thông báo, giấy mời, thư mời, thiệp mời", ""},
     {DocumentKind::jobPosting,
-     "tin tuyển dụng, thông báo tuyển dụng, tuyển dụng, mô tả công việc, bản mô tả công việc, cần tuyển, "
-     "tuyển nhân viên, bài tuyển dụng",
+     "tin tuyển dụng, thông báo tuyển dụng, tuyển dụng, mô tả công việc, "
+     "bản mô tả công việc, cần tuyển, tuyển nhân viên",
      ""},
     {DocumentKind::email,
-     "thư điện tử, email gửi, email cảm ơn, email mời, email xin, mẫu email, thư cảm ơn, thư "
-     "gửi, thư xin lỗi, công văn, email xác nhận, đơn xin nghỉ việc",
+     "thư điện tử, email gửi, email cảm ơn, email mời, email xin, mẫu email, thư cảm ơn, "
+     "thư gửi, thư xin lỗi, công văn, mẫu mail, mail gửi, đơn xin nghỉ việc",
      "thư"},
-    {DocumentKind::faq, "câu hỏi thường gặp, những câu hỏi thường gặp, hỏi đáp, hỏi và đáp, giải đáp thắc mắc", ""},
+    {DocumentKind::faq, "câu hỏi thường gặp, những câu hỏi thường gặp, hỏi đáp, giải đáp thắc mắc, faq", ""},
     {DocumentKind::blogPost, "bài viết, bài blog, bài đăng blog, bài báo, phóng sự", ""},
     {DocumentKind::script, "kịch bản, lời thoại, phụ đề, bài phát biểu, lời dẫn, diễn văn", ""},
     {DocumentKind::essay,
      "bài luận, bài tiểu luận, bài văn, cảm nhận, cảm nghĩ, tản văn, phê bình, review phim, "
-     "phân tích bài thơ, phân tích tác phẩm, nghị luận, tùy bút",
+     "nghị luận, tùy bút, bài bình, bài cảm nhận",
      ""},
     {DocumentKind::story, "truyện, tiểu thuyết, bài thơ, thơ, cổ tích, lời bài hát", ""},
-    {DocumentKind::translation, "bản dịch, bài dịch, dịch thuật, dịch tài liệu", ""},
+    {DocumentKind::translation, "bản dịch, bài dịch, dịch tài liệu, dịch công chứng", ""},
     {DocumentKind::learning,
      "giáo án, giáo trình, tài liệu học tập, tài liệu đào tạo, chương trình đào tạo, "
      "chương trình học, khóa học, khoá học, bài học, đề cương môn học, kế hoạch bài dạy, "
-     "kế hoạch đào tạo, chuyên đề, chương trình giảng dạy",
+     "chương trình giảng dạy, đề cương khóa học, tài liệu tập huấn, đề cương chi tiết",
      ""},
     {DocumentKind::lectureNotes,
      "bài giảng, ghi chép bài giảng, ghi chú bài giảng, tóm tắt bài giảng, slide bài giảng, vở "
      "ghi",
      ""},
     {DocumentKind::studyNotes,
-     "ghi chú học tập, ghi chép học tập, đề cương ôn tập, đề cương ôn thi, ôn tập, tài liệu ôn "
-     "tập, tóm tắt kiến thức, tổng hợp kiến thức, sơ đồ tư duy, thẻ ghi nhớ, từ vựng, công "
-     "thức toán, ghi chú ôn thi, tài liệu ôn thi",
+     "ghi chú học tập, ghi chép học tập, đề cương ôn tập, đề cương ôn thi, ôn tập, "
+     "tài liệu ôn tập, tóm tắt kiến thức, tổng hợp kiến thức, sơ đồ tư duy, từ vựng, "
+     "tài liệu ôn thi, tóm tắt ôn thi, tóm tắt lý thuyết, tóm tắt chương, ghi chú ôn thi",
      ""},
     {DocumentKind::readingNotes,
-     "ghi chú đọc sách, nhật ký đọc sách, tóm tắt sách, tóm tắt tác phẩm, cảm nhận sách, điểm sách, review sách", ""},
+     "ghi chú đọc sách, nhật ký đọc sách, tóm tắt sách, tóm tắt tác phẩm, cảm nhận sách, "
+     "điểm sách, review sách, ghi chép đọc sách",
+     ""},
     {DocumentKind::exercises, "bài tập, phiếu bài tập, phiếu học tập, bài toán, bài thực hành, luyện tập", ""},
     {DocumentKind::solutions, "lời giải, đáp án, bài giải, hướng dẫn giải, giải bài tập, giải đề, giải chi tiết", ""},
     {DocumentKind::quiz,
-     "đề thi, bài thi, đề kiểm tra, bài kiểm tra, trắc nghiệm, bài trắc nghiệm, câu hỏi trắc nghiệm, "
-     "ngân hàng câu hỏi, kiểm tra giữa kỳ, bộ đề, câu đố, thi thử",
+     "đề thi, bài thi, đề kiểm tra, bài kiểm tra, trắc nghiệm, bài trắc nghiệm, "
+     "câu hỏi trắc nghiệm, ngân hàng câu hỏi, kiểm tra giữa kỳ, bộ đề, thi thử",
      ""},
-    {DocumentKind::errorNotes, "sổ tay lỗi sai, sổ lỗi sai, tổng hợp lỗi sai, lỗi sai, sổ ghi lỗi", ""},
+    {DocumentKind::errorNotes,
+     "sổ tay lỗi sai, tổng hợp lỗi sai, lỗi sai, sổ ghi lỗi, ghi chép lỗi sai, "
+     "ghi chép câu sai",
+     ""},
     {DocumentKind::paper,
      "luận văn, luận án, khóa luận, khoá luận, đồ án, bài báo khoa học, công trình nghiên cứu, "
      "đề tài nghiên cứu, nghiên cứu khoa học, chuyên đề tốt nghiệp, đề cương luận văn, tiểu "
@@ -169,10 +176,10 @@ constexpr std::array<Layered, 55> words{{
     {DocumentKind::journal, "nhật ký, sổ nhật ký", ""},
     {DocumentKind::resume,
      "sơ yếu lý lịch, lý lịch, hồ sơ xin việc, đơn xin việc, thư xin việc, cv xin việc, "
-     "cv của, thư ứng tuyển, thư giới thiệu",
+     "cv của, thư ứng tuyển, thư giới thiệu, cv",
      ""},
     {DocumentKind::travelPlan,
-     "kế hoạch du lịch, lịch trình, kế hoạch chuyến đi, kế hoạch đi chơi, hành trình, cẩm nang du lịch, "
+     "kế hoạch du lịch, lịch trình, kế hoạch chuyến đi, hành trình, cẩm nang du lịch, "
      "hướng dẫn du lịch",
      ""},
     {DocumentKind::recipe, "công thức, cách nấu, cách làm bánh, thực đơn, sổ tay nấu ăn, cách làm món", ""},
