@@ -164,7 +164,18 @@ constexpr auto rows = std::to_array<Shared>({
                  "juillet, août, septembre, octobre, novembre, décembre, enero, febrero, marzo, abril, mayo, "
                  "junio, julio, agosto, septiembre, octubre, noviembre, diciembre, kapitel, chapitre, capítulo, "
                  "tema, kw, semaine, semana, folge, ausgabe, teil, épisode, episodio, 文面, 図, 文, 用紙, 文言, "
-                 "оны, сарын, анги, хавар, зун, намар, өвөл, улирлын, жил",
+                 "оны, сарын, анги, хавар, зун, намар, өвөл, улирлын, жил, 年月日, 月日, 年月分, 月末, 令和年, "
+                 "令和年月, 令和年月日, 年度上期, 年度下期, 年度上半期, 年度下半期, 四半期, 第四半期, 第週, 第周, "
+                 "第章節, 第节, 第節, 第课, 第課, 第季度, 季度, 第一季度, 第二季度, 第三季度, 第四季度, 第集, "
+                 "第卷, 第部, 第版, 第次, 第天, 第弾, 第号, 第號, 第巻, 第部分, 第单元, 第單元, 第一章, 第二章, "
+                 "第三章, 第四章, 第五章, 第一节, 第二节, 第三节, 第一课, 第二课, 第三课, 第一单元, 第二单元, "
+                 "第三单元, 第四单元, 第五单元, 第一期, 第二期, 第三期, 第一回, 第二回, 第三回, 第一部, 第二部, "
+                 "修改版, 更新版, 新版, 初版, 改訂, 更新, 月號, 月号分, 三月号, 十一月, 十二月, 월일, 년월일, "
+                 "월호, 월분, 년도, 차시, 학년, 학년도, 반, 제장, 제절, 제회, 제차, 제호, 제권, 제과, 제부, 정의, "
+                 "후보, 수정, 수정안, 최종안, jan, feb, mar, apr, jun, jul, aug, sep, sept, oct, nov, dec, mon, "
+                 "tue, tues, wed, thu, thur, thurs, fri, sat, fy, wk, st, nd, rd, th, ii, iii, iv, phase, round, "
+                 "level, module, year, term, semester, quarter, batch, scene, option, options, sprint, pr, h, nº, "
+                 "numéro, número, nummer, số, tháng, tuần, quý, выпуск, часть, неделя",
      .cues = ""},
     {.kinds = anyOf<journal, changelog>,
      .names = "일지, 작업 일지, 개발 일지, 운동 일지, 실험 일지, 연구 일지, 작업 로그, work log, dev log, "
