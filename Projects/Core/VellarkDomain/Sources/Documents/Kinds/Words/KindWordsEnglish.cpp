@@ -65,8 +65,8 @@ constexpr auto rows = std::to_array<Base>({
      .weak = "todo, to do, task list",
      .markers = ""},
     {.kind = proposal,
-     .names = "proposal, rfp, rfq, bid, business case, grant application, tender, funding request, "
-              "change request",
+     .names = "proposal, rfp, bid, business case, grant application, tender, funding request, change request, "
+              "rfp response",
      .cues = "rfp, grant, sponsorship, request for proposal",
      .weak = "request, application, recommendation",
      .markers = ""},
@@ -95,7 +95,7 @@ constexpr auto rows = std::to_array<Base>({
      .markers = "request body, query parameter, endpoint, bearer, get v"},
     {.kind = testPlan,
      .names = "test plan, test case, test scenario, test strategy, test suite, test specification, "
-              "acceptance test, qa plan, uat plan, test matrix, test script",
+              "acceptance test, qa plan, uat plan, test matrix, test script, unit test",
      .cues = "test, testing, qa, regression, end to end",
      .weak = "test plan, case, coverage",
      .markers = "expected result, precondition, test case, tc"},
@@ -113,7 +113,7 @@ constexpr auto rows = std::to_array<Base>({
      .names = "postmortem, post mortem, incident report, incident review, incident, root cause analysis, "
               "root cause, rca, outage report",
      .cues = "incident, outage, root cause, downtime",
-     .weak = "timeline, whys",
+     .weak = "timeline",
      .markers = "root cause, timeline, impact, incident"},
     {.kind = changelog,
      .names = "changelog, change log, release note, patch note, version history, revision history, what's new, "
@@ -133,7 +133,7 @@ constexpr auto rows = std::to_array<Base>({
      .weak = "table, figures",
      .markers = ""},
     {.kind = prompt,
-     .names = "prompt, prompt engineering, agent instruction, prompt library",
+     .names = "prompt, agent instruction, prompt library",
      .cues = "llm, chatbot, agent",
      .weak = "",
      .markers = "you are a, you are an, your task, output format"},
@@ -156,12 +156,12 @@ constexpr auto rows = std::to_array<Base>({
      .markers = ""},
     {.kind = sales,
      .names = "sales deck, sales pitch, sales script, sales proposal, price list, pricing, catalog, "
-              "success story, success stories, call script, rate card, battle card, product sheet",
+              "success story, success stories, call script, rate card, battle card, product sheet, one sheet",
      .cues = "sales, customer",
      .weak = "pitch, leads",
      .markers = ""},
     {.kind = pressRelease,
-     .names = "press release, news release, press kit, for immediate release, press statement",
+     .names = "press release, news release, press kit, for immediate release, press statement, media kit",
      .cues = "press",
      .weak = "",
      .markers = "for immediate release, immediate release, media contact, announced"},
@@ -187,8 +187,8 @@ constexpr auto rows = std::to_array<Base>({
      .markers = "subtotal, vat, total"},
     {.kind = legal,
      .names = "contract, agreement, nda, terms, terms and conditions, privacy policy, privacy notice, license, "
-              "licence, lease, sla, msa, mou, sow, eula, disclaimer, patent, consent form, bylaw, affidavit, "
-              "waiver, deed",
+              "licence, lease, sla, msa, mou, sow, eula, disclaimer, consent form, bylaw, affidavit, waiver, "
+              "deed",
      .cues = "legal, statement of work, patent, copyright",
      .weak = "conditions, statement",
      .markers = "governing law, confidentiality, termination, this agreement"},
@@ -203,12 +203,13 @@ constexpr auto rows = std::to_array<Base>({
      .weak = "alert, invite",
      .markers = ""},
     {.kind = jobPosting,
-     .names = "job posting, job post, job description, job ad, job opening, vacancy, role description",
+     .names = "job posting, job post, job description, job ad, job opening, vacancy, role description, "
+              "we're hiring, jd",
      .cues = "hiring, job",
      .weak = "opening, position",
      .markers = "responsibilities, qualification, nice to have, how to apply, we offer, benefit"},
     {.kind = email,
-     .names = "letter, reply, thank you note, cold email",
+     .names = "letter, reply, cold email, re, fwd",
      .cues = "welcome, follow up, thank you, outreach, apology, client, draft",
      .weak = "email, e mail, mail",
      .markers = "best regards, sincerely, dear, subject, let me know, thanks"},
@@ -227,7 +228,7 @@ constexpr auto rows = std::to_array<Base>({
      .markers = "fade in, cut to"},
     {.kind = essay,
      .names = "essay, op ed, opinion piece, editorial, critique, book review, movie review, film review, "
-              "personal statement, commentary",
+              "personal statement, commentary, opinion",
      .cues = "film, movie",
      .weak = "",
      .markers = "in conclusion"},
@@ -237,12 +238,12 @@ constexpr auto rows = std::to_array<Base>({
      .weak = "chapter",
      .markers = ""},
     {.kind = translation,
-     .names = "translation, localization, english version, korean version",
+     .names = "translation, localization, english version",
      .cues = "translated",
      .weak = "",
      .markers = ""},
     {.kind = learning,
-     .names = "lesson plan, unit plan, curriculum, syllabus, course, study guide, study plan, lesson",
+     .names = "lesson plan, unit plan, curriculum, syllabus, course, study plan, lesson",
      .cues = "learning, training, course",
      .weak = "unit, module",
      .markers = "learning objective, homework, warm up"},
@@ -251,7 +252,7 @@ constexpr auto rows = std::to_array<Base>({
      .cues = "lecture, class, seminar, webinar",
      .weak = "",
      .markers = ""},
-    {.kind = studyNotes, .names = "", .cues = "study, revision, concept", .weak = "", .markers = ""},
+    {.kind = studyNotes, .names = "study guide", .cues = "study, revision, concept", .weak = "", .markers = ""},
     {.kind = readingNotes,
      .names = "reading log, book summary, book report, paper summary, paper note, paper review, "
               "article summary, reading list",
@@ -265,10 +266,10 @@ constexpr auto rows = std::to_array<Base>({
      .weak = "",
      .markers = ""},
     {.kind = quiz,
-     .names = "practice test, mock exam, mock test, final exam, midterm exam, test paper, examination, trivia, "
+     .names = "practice test, mock exam, mock test, final exam, midterm exam, test paper, trivia, "
               "placement test",
      .cues = "pop, trivia",
-     .weak = "quiz, quizzes, exam, midterm, finals",
+     .weak = "quiz, quizzes, exam, midterm, finals, test",
      .markers = "multiple choice, true or false, time allowed, point"},
     {.kind = errorNotes,
      .names = "mistake log, wrong answer, mistake, error notebook",

@@ -24,7 +24,7 @@ constexpr auto rows = std::to_array<Shared>({
      .names = "분석, 평가, 비교, 비교표, 인사이트, 검토 보고서, 分析, 評価, 评估, 評估, 比較, 对比, 對比, "
               "インサイト, analysis, analyses, assessment, evaluation, insight, deep dive, benchmark, 白皮书, "
               "白皮書, white paper, whitepaper, 백서, 白書, 경과 보고, 情况说明, 项目总结, 季度总结, 年度总结, "
-              "月度总结, 阶段总结, 工作總結, 年度總結",
+              "月度总结, 阶段总结, 工作總結, 年度總結, 결과서, 점검 결과서, load test result, test result",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<report, codeReview, essay>,
@@ -34,7 +34,7 @@ constexpr auto rows = std::to_array<Shared>({
     {.kinds = anyOf<prd, plan, design>,
      .names = "기획, 브리프, brief, 企画, 策划, 策劃, ブリーフ, コンセプト, 企划书, 企劃書, 策划案, 策划书, "
               "企画案, 企划案, 企劃案, 요구사항 정의, product vision, feature definition, プロダクト 要求書, "
-              "企画 概要書",
+              "企画 概要書, mvp scope, scope document",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<story, script, userStories>,
@@ -50,7 +50,7 @@ constexpr auto rows = std::to_array<Shared>({
               "練習題, 练习题, 练习卷, 練習卷, 真题, 真題, 课后题, 思考题, 题库, 題庫, 章末問題, 练习, 练习册, "
               "習題, 練習冊, 練習, 課題, worksheet, problem set, drill, 연습 문제, 문제지, 예제, "
               "練習 プリント, 习题集, 習題集, 워크시트, 예상 문제, 문제은행, practice sheet, 应用题, 應用題, "
-              "演習, 計算 プリント, 例題, 演習 課題",
+              "演習, 計算 プリント, 例題, 演習 課題, 宿題 プリント, 口算题卡, 口算题",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<learning, lectureNotes>,
@@ -76,7 +76,7 @@ constexpr auto rows = std::to_array<Shared>({
     {.kinds = anyOf<notice, guide>,
      .names = "안내, 이용 안내, 案内, ご案内, 说明, 説明, 說明, 안내 사항, 案内文, 须知, 須知, 温馨提示, 公示, "
               "通告, お願い, 通知書, 募集案内, 안내문, advisory, reminder, 통지문, 협조문, 전달 사항, "
-              "학습 안내, 告家长书, 公函, 告知文, 案内状, 連絡 事項, 挨拶状, 講座 案内",
+              "학습 안내, 告家长书, 公函, 告知文, 案内状, 連絡 事項, 挨拶状, 講座 案内, 回覧板, 回覧",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<plan, checklist, userStories>,
@@ -86,7 +86,7 @@ constexpr auto rows = std::to_array<Shared>({
               "工作安排, 活动安排, ガントチャート, 進行表, 甘特图, 甘特圖, 日程, calendar, 스케줄, 予定表, "
               "工程表, 근무표, 스케줄표, 액션 플랜, 마스터 플랜, 세부 추진 계획, shift schedule, 推进表, "
               "值班表, 时间安排, 日历, 排班表, 应急预案, 年間予定, シフト表, アクション プラン, 時間割, "
-              "当番表, マイルストーン",
+              "当番表, マイルストーン, 편성표",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<finance, report>,
@@ -101,7 +101,8 @@ constexpr auto rows = std::to_array<Shared>({
               "경비 내역, 회비 내역, 거래 내역, 매출 현황, 원가 계산서, 자금 계획, 발주서, tax return, "
               "bank statement, billing summary, pay stub, financial projection, credit note, 工资条, 收支明细, "
               "估价单, 成本核算表, 付款申请单, 采购订单, 流水账, 记账本, 予算書, 収支表, 発注書, 給与明細, "
-              "納品書, 売上 予測, 振込 依頼書, 会計 報告, 収支 計画, 経費 精算, 決算 報告",
+              "納品書, 売上 予測, 振込 依頼書, 会計 報告, 収支 計画, 経費 精算, 決算 報告, 账本, 家庭账本, "
+              "帳本, p l statement",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<businessPlan, presentation, sales>,
@@ -141,7 +142,7 @@ constexpr auto rows = std::to_array<Shared>({
      .names = "brainstorm, brainstorming, brain dump, 생각 정리, 便条, 便條, 随手记, 灵感, 头脑风暴, 走り書き, "
               "覚え書き, 备忘, 備忘錄, アイデア, 伝言メモ, idea, 아이디어, 아이디어 노트, 便签, 便簽, 備忘録, "
               "낙서, 끄적임, scratchpad, jottings, sticky note, note to self, 想法, 頭腦風暴, 随记, ネタ帳, "
-              "ひらめき",
+              "ひらめき, 随手笔记",
      .generics = "정리, 정리본, 요약, 요약본, 요약문, 요약 정리, 초고, 초벌, 의견, 노트, 기록, 기록지, 기록물, "
                  "결과, 내용, summary, summaries, notes, note, recap, takeaways, takeaway, records, record, "
                  "findings, variants, january, february, march, april, may, june, july, august, september, "
@@ -201,7 +202,7 @@ constexpr auto rows = std::to_array<Shared>({
               "明细表, 明細表, 明细, 汇总表, 彙總表, 数据表, 數據表, 集計表, 住所録, 通訊録, spreadsheet, "
               "주소록, 연락처, 집계표, 출석부, 통계표, 로우 데이터, 데이터시트, 집계 자료, attendance sheet, "
               "survey response, sales figure, measurement, 登记表, 登記表, 清册, 资料库, 資料庫, 成绩单, "
-              "考勤表, 签到表, 點名表, 數據, 在庫表, 出席簿, 成績表",
+              "考勤表, 签到表, 點名表, 數據, 在庫表, 出席簿, 成績表, 库存表, 庫存表",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<guide, learning>,
@@ -210,7 +211,8 @@ constexpr auto rows = std::to_array<Shared>({
               "操作步骤, 操作步驟, 帮助文档, 新手入门, playbook, handbook, 방법, 설치 방법, 手引き, "
               "ハンド ブック, 使い方, 書き方, 가이드북, 작업 절차, 표준 작업 절차서, 팁 모음, 핸드북, "
               "길라잡이, 使用說明, 作业指导书, 常用命令, 最佳实践, 快速入门, 技巧汇总, 注意事项, 注意事項, "
-              "業務 フロー, 早わかり, 虎の巻, 引継書, 作業 要領",
+              "業務 フロー, 早わかり, 虎の巻, 引継書, 作業 要領, 引き継ぎ書, 引継ぎ書, 引き継ぎ 資料, "
+              "引継ぎ 資料",
      .generics = "문서, 문서화, 서류, 개요, 소개, 입문, 기초, documents, document, documentation, doc, docs, "
                  "overview, introduction, intro, basics, fundamentals, 文書, ドキュメント, 概要, 紹介, 入門, 基礎, "
                  "文档, 文檔, 文件, 概述, 简介, 簡介, 介绍, 介紹, 入门, 基础",
