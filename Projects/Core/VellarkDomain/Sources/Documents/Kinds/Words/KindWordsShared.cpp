@@ -176,7 +176,8 @@ constexpr auto rows = std::to_array<Shared>({
                  "후보, 수정, 수정안, 최종안, jan, feb, mar, apr, jun, jul, aug, sep, sept, oct, nov, dec, mon, "
                  "tue, tues, wed, thu, thur, thurs, fri, sat, fy, wk, st, nd, rd, th, ii, iii, iv, phase, round, "
                  "level, module, year, term, semester, quarter, batch, scene, option, options, sprint, pr, h, nº, "
-                 "numéro, número, nummer, số, tháng, tuần, quý, выпуск, часть, неделя",
+                 "numéro, número, nummer, số, tháng, tuần, quý, выпуск, часть, неделя, а, б, в, г, дүгээр, "
+                 "дугаарын, эцсийн хувилбар, хаврын, намрын, хянасан, батлагдсан, финал",
      .cues = ""},
     {.kinds = anyOf<journal, changelog>,
      .names = "일지, 작업 일지, 개발 일지, 운동 일지, 실험 일지, 연구 일지, 작업 로그, work log, dev log, "

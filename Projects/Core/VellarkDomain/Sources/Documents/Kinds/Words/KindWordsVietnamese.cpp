@@ -13,8 +13,8 @@ namespace {
 
 constexpr std::array<Layered, 55> words{{
     {DocumentKind::prd,
-     "tài liệu yêu cầu sản phẩm, yêu cầu sản phẩm, bản mô tả tính năng, ý tưởng sản phẩm, yêu cầu tính năng, "
-     "mô tả tính năng, tầm nhìn sản phẩm",
+     "tài liệu yêu cầu sản phẩm, yêu cầu sản phẩm, bản mô tả tính năng, yêu cầu tính năng, "
+     "mô tả tính năng",
      ""},
     {DocumentKind::spec,
      "đặc tả, bản đặc tả, tài liệu đặc tả, yêu cầu kỹ thuật, yêu cầu chức năng, yêu cầu hệ thống, "
@@ -22,8 +22,8 @@ constexpr std::array<Layered, 55> words{{
      ""},
     {DocumentKind::plan,
      "kế hoạch, bản kế hoạch, lộ trình, chiến lược, thời gian biểu, thời khóa biểu, "
-     "lịch làm việc, mục tiêu, tiến độ dự án, lịch công tác, lịch trình công tác, kh, "
-     "lịch trực, lịch thi, lịch trình công việc",
+     "lịch làm việc, mục tiêu, lịch công tác, lịch trình công tác, kh, lịch trực, lịch thi, "
+     "lịch trình công việc, tiến độ",
      ""},
     {DocumentKind::userStories,
      "câu chuyện người dùng, trường hợp sử dụng, tiêu chí chấp nhận, tiêu chí nghiệm thu, "
@@ -33,38 +33,45 @@ constexpr std::array<Layered, 55> words{{
      "biên bản, ghi chú cuộc họp, ghi chú họp, nội dung cuộc họp, tóm tắt cuộc họp, "
      "chương trình họp, ghi chép cuộc họp, bb họp, bb",
      ""},
-    {DocumentKind::report, "báo cáo, bản báo cáo, phân tích, đánh giá, tổng kết, kiểm toán, bài báo cáo, sơ kết, bc",
+    {DocumentKind::report,
+     "báo cáo, bản báo cáo, phân tích, đánh giá, tổng kết, kiểm toán, bài báo cáo, sơ kết, bc, "
+     "kết quả",
      ""},
     {DocumentKind::research,
      "nghiên cứu, bài nghiên cứu, khảo sát, phân tích thị trường, phân tích đối thủ, "
      "phân tích swot, so sánh, bảng so sánh, tổng quan tài liệu, phiếu khảo sát, "
      "kết quả khảo sát, tìm hiểu, điều tra",
      ""},
-    {DocumentKind::retrospective,
-     "rút kinh nghiệm, bài học kinh nghiệm, tổng kết dự án, tổng kết sprint, bài học rút ra, nhìn lại", ""},
+    {DocumentKind::retrospective, "rút kinh nghiệm, bài học kinh nghiệm, tổng kết dự án, tổng kết sprint, nhìn lại",
+     ""},
     {DocumentKind::checklist,
      "danh sách kiểm tra, bảng kiểm, danh sách công việc, việc cần làm, "
      "danh sách việc cần làm, danh sách mua sắm, công việc cần làm, checklist",
      ""},
     {DocumentKind::proposal, "đề xuất, tờ trình, đề án, phương án, kiến nghị, hồ sơ đề xuất, hồ sơ dự thầu", ""},
-    {DocumentKind::memo, "ghi chú, ghi nhớ, ghi chép, lời nhắc, bản ghi nhớ", ""},
+    {DocumentKind::memo, "ghi chú, ghi nhớ, ghi chép, bản ghi nhớ", ""},
     {DocumentKind::presentation,
      "bài thuyết trình, thuyết trình, bản trình bày, bài trình bày, slide thuyết trình, "
-     "tham luận, bản trình chiếu",
+     "tham luận, bản trình chiếu, bài trình chiếu, slide giới thiệu",
      ""},
     {DocumentKind::designDoc,
      "tài liệu thiết kế, thiết kế hệ thống, thiết kế kỹ thuật, thiết kế phần mềm, "
-     "thiết kế cơ sở dữ liệu, mô hình dữ liệu, sơ đồ kiến trúc, giải pháp kỹ thuật, "
-     "lưu đồ, kiến trúc",
+     "thiết kế cơ sở dữ liệu, mô hình dữ liệu, sơ đồ kiến trúc, lưu đồ, kiến trúc",
      ""},
-    {DocumentKind::apiDoc, "tài liệu api, đặc tả api, hướng dẫn api, tài liệu tích hợp api, mô tả api", ""},
+    {DocumentKind::apiDoc,
+     "tài liệu api, đặc tả api, hướng dẫn api, tài liệu tích hợp api, mô tả api, "
+     "mô tả các endpoint",
+     ""},
     {DocumentKind::testPlan,
      "kế hoạch kiểm thử, kế hoạch test, trường hợp kiểm thử, kịch bản kiểm thử, "
      "kịch bản test, tài liệu kiểm thử, ca kiểm thử",
      ""},
     {DocumentKind::bugReport, "báo cáo lỗi, báo lỗi, danh sách lỗi, mô tả lỗi", ""},
-    {DocumentKind::codeReview, "đánh giá mã nguồn, đánh giá code, kiểm tra mã nguồn, nhận xét code, review code", ""},
-    {DocumentKind::postmortem, "báo cáo sự cố, phân tích sự cố, điều tra sự cố, phân tích nguyên nhân gốc rễ", ""},
+    {DocumentKind::codeReview,
+     "đánh giá mã nguồn, đánh giá code, kiểm tra mã nguồn, nhận xét code, review code, "
+     "nhận xét mã nguồn",
+     ""},
+    {DocumentKind::postmortem, "báo cáo sự cố, phân tích sự cố, phân tích nguyên nhân gốc rễ", ""},
     {DocumentKind::changelog,
      "nhật ký thay đổi, lịch sử thay đổi, lịch sử phiên bản, lịch sử cập nhật, "
      "ghi chú phát hành, ghi chú phiên bản, nội dung cập nhật",
@@ -85,8 +92,8 @@ constexpr std::array<Layered, 55> words{{
      "wireframe màn hình",
      ""},
     {DocumentKind::designSystem,
-     "hệ thống thiết kế, bộ nhận diện thương hiệu, nhận diện thương hiệu, hướng dẫn thương hiệu, "
-     "quy chuẩn thiết kế, hướng dẫn thiết kế, cẩm nang thương hiệu",
+     "hệ thống thiết kế, bộ nhận diện thương hiệu, nhận diện thương hiệu, "
+     "hướng dẫn thương hiệu, hướng dẫn thiết kế, cẩm nang thương hiệu, quy chuẩn",
      ""},
     {DocumentKind::marketingCopy,
      "bài quảng cáo, nội dung quảng cáo, quảng cáo, bài viết quảng cáo, khẩu hiệu, tờ rơi, "
@@ -100,7 +107,7 @@ constexpr std::array<Layered, 55> words{{
     {DocumentKind::newsletter, "bản tin", ""},
     {DocumentKind::socialPost,
      "bài đăng, bài post, bài viết facebook, bài viết mạng xã hội, nội dung mạng xã hội, "
-     "caption instagram, status facebook",
+     "caption instagram",
      ""},
     {DocumentKind::businessPlan,
      "kế hoạch kinh doanh, bản kế hoạch kinh doanh, mô hình kinh doanh, phương án kinh doanh, "
@@ -116,7 +123,7 @@ constexpr std::array<Layered, 55> words{{
      "hợp đồng, mẫu hợp đồng, dự thảo hợp đồng, thỏa thuận, thoả thuận, điều khoản, "
      "giấy ủy quyền, đơn khởi kiện, biên bản ghi nhớ, biên bản nghiệm thu, "
      "biên bản bàn giao, giấy phép, điều lệ, bản cam kết, nghị định, phụ lục hợp đồng, "
-     "bản án, giấy uỷ quyền, biên bản thanh lý, cam kết, di chúc",
+     "bản án, giấy uỷ quyền, biên bản thanh lý, cam kết, di chúc, hdld",
      ""},
     {DocumentKind::policy,
      "chính sách, quy định, quy chế, nội quy, quy tắc, tiêu chuẩn, quyết định, nghị quyết, "
@@ -129,10 +136,10 @@ constexpr std::array<Layered, 55> words{{
      ""},
     {DocumentKind::email,
      "thư điện tử, email gửi, email cảm ơn, email mời, email xin, mẫu email, thư cảm ơn, "
-     "thư gửi, thư xin lỗi, công văn, mẫu mail, mail gửi, đơn xin nghỉ việc",
+     "thư gửi, thư xin lỗi, công văn, mẫu mail, mail gửi, đơn xin nghỉ việc, thư khiếu nại",
      "thư"},
     {DocumentKind::faq, "câu hỏi thường gặp, những câu hỏi thường gặp, hỏi đáp, giải đáp thắc mắc, faq", ""},
-    {DocumentKind::blogPost, "bài viết, bài blog, bài đăng blog, bài báo, phóng sự", ""},
+    {DocumentKind::blogPost, "bài viết, bài blog, bài đăng blog, bài báo", ""},
     {DocumentKind::script, "kịch bản, lời thoại, phụ đề, bài phát biểu, lời dẫn, diễn văn", ""},
     {DocumentKind::essay,
      "bài luận, bài tiểu luận, bài văn, cảm nhận, cảm nghĩ, tản văn, phê bình, review phim, "
@@ -146,8 +153,8 @@ constexpr std::array<Layered, 55> words{{
      "chương trình giảng dạy, đề cương khóa học, tài liệu tập huấn, đề cương chi tiết",
      ""},
     {DocumentKind::lectureNotes,
-     "bài giảng, ghi chép bài giảng, ghi chú bài giảng, tóm tắt bài giảng, slide bài giảng, vở "
-     "ghi",
+     "bài giảng, ghi chép bài giảng, ghi chú bài giảng, tóm tắt bài giảng, slide bài giảng, "
+     "vở ghi, ghi chép trên lớp",
      ""},
     {DocumentKind::studyNotes,
      "ghi chú học tập, ghi chép học tập, đề cương ôn tập, đề cương ôn thi, ôn tập, "
@@ -166,12 +173,11 @@ constexpr std::array<Layered, 55> words{{
      ""},
     {DocumentKind::errorNotes,
      "sổ tay lỗi sai, tổng hợp lỗi sai, lỗi sai, sổ ghi lỗi, ghi chép lỗi sai, "
-     "ghi chép câu sai",
+     "ghi chép câu sai, những câu hay sai",
      ""},
     {DocumentKind::paper,
-     "luận văn, luận án, khóa luận, khoá luận, đồ án, bài báo khoa học, công trình nghiên cứu, "
-     "đề tài nghiên cứu, nghiên cứu khoa học, chuyên đề tốt nghiệp, đề cương luận văn, tiểu "
-     "luận",
+     "luận văn, luận án, khóa luận, khoá luận, đồ án, bài báo khoa học, đề tài nghiên cứu, "
+     "nghiên cứu khoa học, chuyên đề tốt nghiệp, đề cương luận văn, tiểu luận",
      ""},
     {DocumentKind::journal, "nhật ký, sổ nhật ký", ""},
     {DocumentKind::resume,
@@ -180,9 +186,9 @@ constexpr std::array<Layered, 55> words{{
      ""},
     {DocumentKind::travelPlan,
      "kế hoạch du lịch, lịch trình, kế hoạch chuyến đi, hành trình, cẩm nang du lịch, "
-     "hướng dẫn du lịch",
+     "hướng dẫn du lịch, kế hoạch đi chơi",
      ""},
-    {DocumentKind::recipe, "công thức, cách nấu, cách làm bánh, thực đơn, sổ tay nấu ăn, cách làm món", ""},
+    {DocumentKind::recipe, "công thức, cách nấu, cách làm bánh, thực đơn, cách làm món", ""},
 }};
 
 }  // namespace
