@@ -1,6 +1,10 @@
 // German words that point at a document's kind. Each noun also matches as the end of a compound ("bericht" in
 // "Projektbericht"), so only compounds that mean another kind than their head need entries. Plurals are entries of
 // their own; words that English shares must have the same kind there.
+//
+// These nouns name a document wherever no complement stands before them. That is right for English nouns that many
+// languages use, too ("code review", "newsletter"): such a noun stands here and not in the English list, whose nouns
+// must end the phrase.
 
 #include <VellarkDomain/Documents/Kinds/Words/KindWords.hpp>
 
@@ -10,24 +14,24 @@ namespace {
 
 constexpr Layered words[] = {
     {.kind = DocumentKind::prd,
-     .nouns = "konzept, produktanforderungen, projektskizze, produktanforderungsdokument, produktbriefing",
+     .nouns = "konzept, produktanforderungen, projektskizze, produktanforderungsdokument, produktbriefing, prd",
      .weak = ""},
     {.kind = DocumentKind::spec,
      .nouns = "spezifikation, pflichtenheft, lastenheft, anforderungen, anforderungskatalog, "
-              "anforderungsanalyse, leistungsbeschreibung, funktionsbeschreibung, fachkonzept, "
-              "leistungsverzeichnis, datenblatt, anforderungsdokument, spezifikationen",
+              "leistungsbeschreibung, funktionsbeschreibung, fachkonzept, leistungsverzeichnis, datenblatt, "
+              "anforderungsdokument, spezifikationen",
      .weak = ""},
     {.kind = DocumentKind::plan,
-     .nouns = "plan, zeitplan, terminplan, projektplan, aktionsplan, maßnahmenplan, wochenplan, dienstplan, "
-              "planung, strategie, roadmap, schichtplan, migrationsplan",
+     .nouns = "plan, zeitplan, terminplan, projektplan, maßnahmenplan, wochenplan, dienstplan, planung, "
+              "strategie, roadmap, schichtplan, migrationsplan, roadmaps, okr, strategiepapier",
      .weak = ""},
     {.kind = DocumentKind::userStories,
      .nouns = "user story, user stories, nutzergeschichte, anwendungsfall, anwendungsfälle, "
-              "akzeptanzkriterien, nutzergeschichten",
+              "akzeptanzkriterien, nutzergeschichten, use case, use cases",
      .weak = ""},
     {.kind = DocumentKind::meetingNotes,
-     .nouns = "protokoll, protokolle, besprechungsnotiz, besprechungsnotizen, gesprächsnotiz, niederschrift, "
-              "tagesordnung, meeting-notizen",
+     .nouns = "protokoll, besprechungsnotiz, besprechungsnotizen, gesprächsnotiz, tagesordnung, "
+              "meeting-notizen, agenda",
      .weak = ""},
     {.kind = DocumentKind::report,
      .nouns = "bericht, report, analyse, auswertung, gutachten, versuchsprotokoll, berichte",
@@ -37,80 +41,82 @@ constexpr Layered words[] = {
               "fragebogen, literaturübersicht, umfrageergebnisse, interviewauswertung, zielgruppenanalyse, "
               "vergleich",
      .weak = ""},
-    {.kind = DocumentKind::retrospective, .nouns = "retrospektive, rückblick, lessons learned, reflexion", .weak = ""},
-    {.kind = DocumentKind::checklist,
-     .nouns = "checkliste, aufgabenliste, to-do-liste, todoliste, einkaufsliste, packliste, prüfliste",
-     .weak = "aufgaben"},
-    {.kind = DocumentKind::proposal,
-     .nouns = "vorschlag, antrag, empfehlung, entscheidungsvorlage, beschlussvorlage, ausschreibung",
+    {.kind = DocumentKind::retrospective,
+     .nouns = "retrospektive, rückblick, lessons learned, retro, retrospective",
      .weak = ""},
-    {.kind = DocumentKind::memo, .nouns = "notiz, notizen, vermerk, memo an, notizzettel, ideensammlung", .weak = ""},
+    {.kind = DocumentKind::checklist,
+     .nouns = "checkliste, aufgabenliste, to-do-liste, einkaufsliste, packliste, prüfliste, checklist, "
+              "checklists",
+     .weak = "aufgaben"},
+    {.kind = DocumentKind::proposal, .nouns = "vorschlag, antrag, entscheidungsvorlage, ausschreibung", .weak = ""},
+    {.kind = DocumentKind::memo,
+     .nouns = "notiz, notizen, vermerk, memo an, notizzettel, ideensammlung, memo",
+     .weak = ""},
     {.kind = DocumentKind::presentation,
-     .nouns = "präsentation, folien, vortrag, referat, foliensatz, präsentationen",
+     .nouns = "präsentation, folien, vortrag, referat, foliensatz, präsentationen, slide, slides",
      .weak = ""},
     {.kind = DocumentKind::designDoc,
      .nouns = "architektur, architekturkonzept, architekturentscheidung, technisches konzept, feinkonzept, "
-              "systementwurf, datenbankentwurf, datenmodell, datenbankschema, architekturentwurf, "
-              "architekturdokument, technisches design, entwurfsdokument, ablaufdiagramm, grobkonzept",
+              "systementwurf, datenmodell, architekturentwurf, architekturdokument, technisches design, "
+              "entwurfsdokument, ablaufdiagramm, grobkonzept",
      .weak = ""},
     {.kind = DocumentKind::apiDoc,
      .nouns = "api-dokumentation, api-referenz, api-spezifikation, schnittstellenbeschreibung, "
               "schnittstellendokumentation, schnittstellenspezifikation, schnittstellenreferenz",
      .weak = ""},
     {.kind = DocumentKind::testPlan,
-     .nouns = "testplan, testkonzept, testfall, testfälle, teststrategie, testprotokoll, testszenario, "
-              "prüfplan, abnahmetest, testszenarien",
+     .nouns = "testplan, testkonzept, testfall, testfälle, teststrategie, testprotokoll, prüfplan, "
+              "abnahmetest, testszenarien, test case, test cases",
      .weak = ""},
     {.kind = DocumentKind::bugReport,
-     .nouns = "fehlerbericht, fehlermeldung, fehlerbeschreibung, bugreport, störungsmeldung, fehlerliste",
+     .nouns = "fehlerbericht, fehlermeldung, bugreport, störungsmeldung, fehlerliste, bug report",
      .weak = ""},
     {.kind = DocumentKind::codeReview, .nouns = "code review, codedurchsicht", .weak = ""},
     {.kind = DocumentKind::postmortem,
      .nouns = "postmortem, störungsbericht, vorfallsbericht, ausfallbericht, incident-bericht, "
-              "ursachenanalyse, fehleranalyse, unfallbericht, vorfallanalyse",
+              "ursachenanalyse, fehleranalyse, unfallbericht, vorfallanalyse, post mortem, incident report",
      .weak = ""},
     {.kind = DocumentKind::changelog,
-     .nouns = "changelog, release notes, änderungsprotokoll, änderungsverlauf, änderungshistorie, "
-              "versionshinweise, versionshistorie, neuerungen",
+     .nouns = "changelog, release notes, änderungsprotokoll, änderungshistorie, versionshinweise, "
+              "versionshistorie, neuerungen",
      .weak = ""},
     {.kind = DocumentKind::guide,
      .nouns = "anleitung, handbuch, leitfaden, guide, einführung, dokumentation, tutorial, ratgeber, "
               "gebrauchsanweisung, arbeitsanweisung, erste schritte, einarbeitungsplan, verfahrensanweisung, "
-              "prozessbeschreibung, anleitungen, schritt-für-schritt-anleitung",
+              "prozessbeschreibung, anleitungen, schritt-für-schritt-anleitung, runbook",
      .weak = ""},
     {.kind = DocumentKind::data,
-     .nouns = "daten, datensatz, tabelle, statistik, statistiken, kennzahlen, messwerte, liste, inventar",
+     .nouns = "daten, datensatz, tabelle, statistik, kennzahlen, messwerte, liste, inventar, statistiken",
      .weak = ""},
     {.kind = DocumentKind::prompt, .nouns = "prompt, prompts, systemprompt, prompt-vorlage", .weak = ""},
     {.kind = DocumentKind::design,
      .nouns = "designentwurf, wireframe, wireframes, mockup, mockups, prototyp, logoentwurf, skizze, entwürfe, "
-              "ui-entwurf",
+              "ui-entwurf, persona, personas",
      .weak = ""},
     {.kind = DocumentKind::designSystem,
-     .nouns = "designsystem, design system, styleguide, gestaltungsrichtlinien, designrichtlinien, "
-              "markenhandbuch, design-handbuch",
+     .nouns = "designsystem, design system, styleguide, gestaltungsrichtlinien, markenhandbuch, "
+              "design-handbuch, style guide, design tokens",
      .weak = ""},
     {.kind = DocumentKind::marketingCopy,
      .nouns = "werbetext, werbetexte, anzeigentext, slogan, produktbeschreibung, produkttext, broschüre, "
-              "flyer, landingpage, anzeigentexte, faltblatt, verkaufstext",
+              "flyer, landingpage, anzeigentexte, faltblatt, verkaufstext, slogans",
      .weak = ""},
     {.kind = DocumentKind::sales,
      .nouns = "angebot, verkaufsunterlagen, vertriebsunterlagen, vertriebspräsentation, verkaufspräsentation, "
-              "unternehmenspräsentation, produktkatalog, preisliste, katalog, angebote, verkaufsleitfaden",
+              "produktkatalog, preisliste, katalog, angebote, verkaufsleitfaden",
      .weak = ""},
     {.kind = DocumentKind::pressRelease,
-     .nouns = "pressemitteilung, pressemeldung, presseinformation, pressetext, medienmitteilung, pressemappe, "
-              "presseerklärung, pressemitteilungen",
+     .nouns = "pressemitteilung, pressemeldung, presseinformation, pressetext, pressemappe, presseerklärung",
      .weak = ""},
     {.kind = DocumentKind::newsletter,
      .nouns = "newsletter, rundbrief, infobrief, mitarbeiterzeitung, gemeindebrief",
      .weak = ""},
     {.kind = DocumentKind::socialPost,
-     .nouns = "social-media-beitrag, social-media-beiträge, social-media-post, linkedin-beitrag, "
-              "linkedin-post, instagram-beitrag, instagram-post, tweet, facebook-beitrag",
+     .nouns = "social-media-beiträge, social-media-post, linkedin-beitrag, linkedin-post, instagram-beitrag, "
+              "instagram-post, tweet, facebook-beitrag, linkedin post, instagram post",
      .weak = ""},
     {.kind = DocumentKind::businessPlan,
-     .nouns = "geschäftsplan, businessplan, business plan, geschäftsmodell, geschäftskonzept, gründungskonzept",
+     .nouns = "geschäftsplan, businessplan, business plan, geschäftsmodell, gründungskonzept",
      .weak = ""},
     {.kind = DocumentKind::finance,
      .nouns = "budget, budgetplan, finanzplan, kostenplan, haushaltsplan, rechnung, rechnungen, abrechnung, "
@@ -121,33 +127,29 @@ constexpr Layered words[] = {
     {.kind = DocumentKind::legal,
      .nouns = "vertrag, vereinbarung, agb, allgemeine geschäftsbedingungen, nutzungsbedingungen, vollmacht, "
               "kündigung, lizenz, satzung, klage, einverständniserklärung, widerspruch, übergabeprotokoll, "
-              "abnahmeprotokoll, impressum, bescheinigung, abmahnung, patientenverfügung, bürgschaft, "
-              "verträge, klageschrift",
+              "impressum, bescheinigung, abmahnung, patientenverfügung, bürgschaft, verträge, klageschrift",
      .weak = ""},
     {.kind = DocumentKind::policy,
-     .nouns = "richtlinie, richtlinien, leitlinie, leitlinien, regelung, regelungen, regeln, vorschrift, "
-              "vorschriften, hausordnung, geschäftsordnung, betriebsvereinbarung, verhaltenskodex, "
-              "dienstanweisung, leitbild, prüfungsordnung, schulordnung, regelwerk, datenschutzerklärung",
+     .nouns = "richtlinie, richtlinien, leitlinien, regelung, regeln, vorschriften, hausordnung, "
+              "geschäftsordnung, betriebsvereinbarung, verhaltenskodex, dienstanweisung, prüfungsordnung, "
+              "schulordnung, regelwerk, datenschutzerklärung",
      .weak = ""},
     {.kind = DocumentKind::notice,
      .nouns = "mitteilung, bekanntmachung, ankündigung, rundschreiben, einladung, hinweis, hinweise, aushang, "
-              "elternbrief, merkblatt, informationsschreiben, infoschreiben, benachrichtigung, "
-              "elterninformation",
+              "elternbrief, merkblatt, informationsschreiben, benachrichtigung, elterninformation",
      .weak = ""},
     {.kind = DocumentKind::jobPosting,
      .nouns = "stellenanzeige, stellenausschreibung, stellenangebot, stellenbeschreibung, jobprofil",
      .weak = ""},
     {.kind = DocumentKind::email,
-     .nouns = "geschäftsbrief, begleitschreiben, dankschreiben, kündigungsschreiben, antwortschreiben, "
-              "beschwerdebrief, rundmail, willkommensmail, mail an, anfrage, antwortmail, e-mail-entwurf, "
-              "anschreiben",
+     .nouns = "begleitschreiben, dankschreiben, kündigungsschreiben, antwortschreiben, beschwerdebrief, "
+              "rundmail, willkommensmail, mail an, anfrage, antwortmail, e-mail-entwurf, anschreiben",
      .weak = "mail, mails, e-mail"},
     {.kind = DocumentKind::faq,
-     .nouns = "häufige fragen, häufig gestellte fragen, faq, fragen und antworten",
+     .nouns = "häufige fragen, häufig gestellte fragen, faq, fragen und antworten, faqs, q a",
      .weak = ""},
     {.kind = DocumentKind::blogPost,
-     .nouns = "blogbeitrag, blogeintrag, blogpost, gastbeitrag, artikel, erfahrungsbericht, reisebericht, "
-              "reportage",
+     .nouns = "blogbeitrag, blogpost, gastbeitrag, artikel, erfahrungsbericht, reisebericht, blog post",
      .weak = ""},
     {.kind = DocumentKind::script,
      .nouns = "drehbuch, rede, sprechtext, videoskript, theaterstück, untertitel, ansprache, podcast-skript, "
@@ -163,14 +165,13 @@ constexpr Layered words[] = {
     {.kind = DocumentKind::translation, .nouns = "übersetzung, englische fassung, lokalisierung", .weak = ""},
     {.kind = DocumentKind::learning,
      .nouns = "lehrplan, lehrmaterial, lernmaterial, unterrichtsmaterial, unterrichtsmaterialien, "
-              "unterrichtsentwurf, unterrichtsplanung, stundenentwurf, schulungsunterlagen, kursunterlagen, "
-              "lehrbuch, modulhandbuch, stoffverteilungsplan, seminarplan, arbeitsheft, lernplan, "
-              "schulungskonzept",
+              "unterrichtsentwurf, unterrichtsplanung, schulungsunterlagen, kursunterlagen, lehrbuch, "
+              "modulhandbuch, stoffverteilungsplan, seminarplan, arbeitsheft, lernplan, schulungskonzept",
      .weak = ""},
     {.kind = DocumentKind::lectureNotes, .nouns = "mitschrift, vorlesungsnotizen, vorlesungsskript", .weak = ""},
     {.kind = DocumentKind::studyNotes,
-     .nouns = "lernzettel, karteikarten, prüfungsvorbereitung, klausurvorbereitung, vokabelliste, "
-              "vokabeln, formelsammlung, lernkarten, spickzettel, zusammenfassung",
+     .nouns = "lernzettel, karteikarten, prüfungsvorbereitung, vokabelliste, vokabeln, formelsammlung, "
+              "lernkarten, spickzettel, zusammenfassung",
      .weak = ""},
     {.kind = DocumentKind::readingNotes,
      .nouns = "lesenotizen, buchzusammenfassung, lesetagebuch, exzerpt, inhaltsangabe, leseprotokoll, "

@@ -102,7 +102,7 @@ constexpr auto rows = std::to_array<Shared>({
               "bank statement, billing summary, pay stub, financial projection, credit note, 工资条, 收支明细, "
               "估价单, 成本核算表, 付款申请单, 采购订单, 流水账, 记账本, 予算書, 収支表, 発注書, 給与明細, "
               "納品書, 売上 予測, 振込 依頼書, 会計 報告, 収支 計画, 経費 精算, 決算 報告, 账本, 家庭账本, "
-              "帳本, p l statement",
+              "帳本, p l statement, 收支明細, 収支 報告, 決算報告書",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<businessPlan, presentation, sales>,
@@ -142,7 +142,7 @@ constexpr auto rows = std::to_array<Shared>({
      .names = "brainstorm, brainstorming, brain dump, 생각 정리, 便条, 便條, 随手记, 灵感, 头脑风暴, 走り書き, "
               "覚え書き, 备忘, 備忘錄, アイデア, 伝言メモ, idea, 아이디어, 아이디어 노트, 便签, 便簽, 備忘録, "
               "낙서, 끄적임, scratchpad, jottings, sticky note, note to self, 想法, 頭腦風暴, 随记, ネタ帳, "
-              "ひらめき, 随手笔记",
+              "ひらめき, 随手笔记, 隨手筆記, 隨筆記",
      .generics = "정리, 정리본, 요약, 요약본, 요약문, 요약 정리, 초고, 초벌, 의견, 노트, 기록, 기록지, 기록물, "
                  "결과, 내용, summary, summaries, notes, note, recap, takeaways, takeaway, records, record, "
                  "findings, variants, january, february, march, april, may, june, july, august, september, "
