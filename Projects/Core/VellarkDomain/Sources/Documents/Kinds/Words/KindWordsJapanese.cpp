@@ -43,7 +43,7 @@ constexpr Base words[] = {
      .markers = ""},
     {.kind = DocumentKind::research,
      .names = "調査, リサーチ, 競合 分析, 市場 分析, アンケート, ユーザー インタビュー, 調査 レポート, "
-              "調査 報告書, 先行研究",
+              "調査 報告書, 先行研究 レビュー",
      .cues = "競合, 市場, ヒアリング",
      .weak = "",
      .markers = ""},
