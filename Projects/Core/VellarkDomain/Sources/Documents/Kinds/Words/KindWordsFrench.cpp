@@ -22,7 +22,7 @@ constexpr Layered words[] = {
     {.kind = DocumentKind::plan,
      .nouns = "plan, plan d'action, plan projet, plan stratégique, plan marketing, planning, calendrier, "
               "feuille de route, stratégie, stratégies, planification, rétroplanning, roadmap, "
-              "emploi du temps, plane, échéancier",
+              "emploi du temps, plane, échéancier, plan d'urgence, plan d'amélioration, plan d'investissement",
      .weak = "programme, programmes"},
     {.kind = DocumentKind::userStories,
      .nouns = "récits utilisateurs, user story, user stories, cas d'utilisation, cas d'usage, "
@@ -30,19 +30,17 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::meetingNotes,
      .nouns = "compte rendu, comptes rendus, procès-verbal, procès-verbaux, cr de réunion, cr réunion, "
-              "relevé de décisions, notes de réunion, ordre du jour, réunion d'équipe, point hebdo, pv, "
-              "cr point",
+              "relevé de décisions, notes de réunion, ordre du jour, point hebdo, pv, cr point, cr",
      .weak = ""},
     {.kind = DocumentKind::report,
      .nouns = "rapport, rapports, bilan, bilans, reporting, synthèse, synthèses, note de synthèse, "
               "tableau de bord, tableaux de bord, état d'avancement, point d'avancement, analyse, diagnostic, "
-              "évaluation, évaluations, livre blanc, compte rendu d'activité, compte rendu de mission, "
-              "point d'étape",
+              "évaluation, évaluations, livre blanc, compte rendu d'activité, point d'étape, résultats",
      .weak = "suivi, suivis"},
     {.kind = DocumentKind::research,
      .nouns = "étude, études, recherche, enquête, sondage, analyse concurrentielle, analyse de marché, veille, "
               "état de l'art, revue de littérature, revue de la littérature, questionnaire, "
-              "benchmark concurrentiel, synthèse des entretiens",
+              "benchmark concurrentiel, synthèse des entretiens, résultats du sondage, résultats de l'enquête",
      .weak = ""},
     {.kind = DocumentKind::retrospective,
      .nouns = "rétrospective, rétro, retour d'expérience, retours d'expérience, bilan de projet, bilan "
@@ -51,30 +49,28 @@ constexpr Layered words[] = {
     {.kind = DocumentKind::checklist,
      .nouns = "liste de contrôle, liste de vérification, liste de tâches, liste des tâches, liste de courses, "
               "à faire, checklist, checklists, check-list, points à vérifier, liste des courses, "
-              "liste des choses",
+              "liste des choses, choses à faire",
      .weak = "tâches, liste, listes"},
     {.kind = DocumentKind::proposal,
      .nouns = "proposition, propositions, recommandation, recommandations, demande de subvention, "
               "demande de financement, réponse à appel d'offres, avant-projet, projet de recherche, "
-              "appel à projets, réponse à l'appel d'offres",
+              "appel à projets, réponse à l'appel d'offres, dossier de subvention",
      .weak = ""},
     {.kind = DocumentKind::memo,
-     .nouns = "note de service, notes de service, note interne, mémo, pense-bête, bloc-notes, notes en vrac, "
-              "idées en vrac",
+     .nouns = "note de service, notes de service, note interne, mémo, pense-bête, notes en vrac, idées en vrac",
      .weak = ""},
     {.kind = DocumentKind::presentation,
-     .nouns = "présentation, présentations, diaporama, support de présentation, diapositives, exposé, "
-              "soutenance, support de réunion",
+     .nouns = "présentation, diaporama, support de présentation, diapositives, exposé, soutenance, "
+              "support de réunion",
      .weak = ""},
     {.kind = DocumentKind::designDoc,
      .nouns = "document de conception, dossier de conception, conception, architecture technique, "
-              "architecture logicielle, architecture applicative, dossier d'architecture, "
-              "document d'architecture, schéma d'architecture, décision d'architecture, modèle de données, "
-              "schéma de base de données, diagramme de séquence",
+              "architecture logicielle, dossier d'architecture, document d'architecture, "
+              "schéma d'architecture, décision d'architecture, modèle de données, diagramme de séquence, schéma",
      .weak = ""},
     {.kind = DocumentKind::apiDoc,
-     .nouns = "documentation api, documentation d'api, documentation de l'api, référence api, référence de l'api, "
-              "spécification api, spécification d'api, contrat d'interface, doc api",
+     .nouns = "documentation api, documentation d'api, documentation de l'api, référence api, "
+              "référence de l'api, spécification api, contrat d'interface",
      .weak = ""},
     {.kind = DocumentKind::testPlan,
      .nouns = "plan de test, plan de tests, cas de test, stratégie de test, cahier de recette, "
@@ -82,14 +78,13 @@ constexpr Layered words[] = {
               "pv de recette",
      .weak = ""},
     {.kind = DocumentKind::bugReport,
-     .nouns = "rapport de bug, rapport d'anomalie, fiche d'anomalie, signalement de bug, rapport d'erreur, "
-              "anomalie, bogue, ticket d'incident",
+     .nouns = "rapport de bug, rapport d'anomalie, fiche d'anomalie, signalement de bug, anomalie, bogue, "
+              "ticket d'incident",
      .weak = ""},
     {.kind = DocumentKind::codeReview, .nouns = "revue de code, relecture de code, audit de code", .weak = ""},
     {.kind = DocumentKind::postmortem,
      .nouns = "post-mortem, postmortem, rapport d'incident, analyse d'incident, analyse des causes, "
-              "analyse de cause racine, compte rendu d'incident, rapport de panne, analyse "
-              "post-incident",
+              "analyse de cause racine, compte rendu d'incident, analyse post-incident",
      .weak = ""},
     {.kind = DocumentKind::changelog,
      .nouns = "journal des modifications, journal des changements, notes de version, note de version, "
@@ -98,9 +93,10 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::guide,
      .nouns = "guide, manuel, manuels, mode d'emploi, tutoriel, tuto, procédure, procédures, "
-              "notice d'utilisation, notice explicative, guide utilisateur, guide d'installation, "
-              "guide pratique, fiche pratique, livret d'accueil, consignes, prise en main, mode opératoire, "
-              "bonnes pratiques, documentation technique, documentation utilisateur, guide d'accueil, vademecum",
+              "notice d'utilisation, guide utilisateur, guide d'installation, guide pratique, fiche pratique, "
+              "livret d'accueil, consignes, prise en main, mode opératoire, bonnes pratiques, "
+              "documentation technique, documentation utilisateur, guide d'accueil, vademecum, "
+              "guide d'utilisation",
      .weak = "méthode, démarche, étapes"},
     {.kind = DocumentKind::data,
      .nouns = "données, jeu de données, statistiques, chiffres clés, indicateurs, tableau de suivi, "
@@ -112,16 +108,16 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::design,
      .nouns = "maquette, maquettes, wireframe, wireframes, prototype interactif, parcours utilisateur, "
-              "parcours client, fiche persona, esquisse, croquis, conception graphique",
+              "parcours client, esquisse, croquis, conception graphique",
      .weak = ""},
     {.kind = DocumentKind::designSystem,
      .nouns = "système de design, design system, charte graphique, guide de style, identité visuelle, "
-              "bibliothèque de composants, palette de couleurs, charte éditoriale",
+              "bibliothèque de composants, palette de couleurs, charte éditoriale, charte de marque",
      .weak = ""},
     {.kind = DocumentKind::marketingCopy,
      .nouns = "texte publicitaire, accroche, accroches, slogan, slogans, page de vente, publicité, "
               "annonce publicitaire, dépliant, description produit, fiche produit, texte promotionnel, "
-              "textes publicitaires, affiche, prospectus, textes de la page",
+              "textes publicitaires, affiche, prospectus, textes de la page, texte de la page",
      .weak = ""},
     {.kind = DocumentKind::sales,
      .nouns = "offre, argumentaire, présentation commerciale, plaquette commerciale, catalogue, "
@@ -138,18 +134,17 @@ constexpr Layered words[] = {
     {.kind = DocumentKind::socialPost,
      .nouns = "publication linkedin, publication instagram, publication facebook, post linkedin, "
               "post instagram, post facebook, publication réseaux sociaux, tweet, légende instagram, "
-              "fil twitter, publications",
+              "fil twitter, publications, légendes",
      .weak = ""},
     {.kind = DocumentKind::businessPlan,
-     .nouns = "plan d'affaires, business plan, modèle économique, modèle d'affaires, plan de développement, "
-              "étude de faisabilité",
+     .nouns = "plan d'affaires, business plan, modèle économique, plan de développement, étude de faisabilité",
      .weak = ""},
     {.kind = DocumentKind::finance,
      .nouns = "budget, budgets, budget prévisionnel, devis, facture, factures, bilan comptable, "
               "bilan financier, compte de résultat, comptes annuels, plan de financement, plan de trésorerie, "
               "note de frais, notes de frais, état financier, états financiers, rapport financier, "
-              "bon de commande, suivi budgétaire, fiche de paie, bulletin de paie, relevé de compte, "
-              "quittance, bon de livraison, reçu, déclaration fiscale, relevé bancaire",
+              "bon de commande, suivi budgétaire, fiche de paie, bulletin de paie, relevé de compte, reçu, "
+              "déclaration fiscale, relevé bancaire, trésorerie",
      .weak = ""},
     {.kind = DocumentKind::legal,
      .nouns = "contrat, contrats, convention, conventions, accord, conditions générales, "
@@ -159,7 +154,7 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::policy,
      .nouns = "politique, politiques, règlement, règlements, charte, chartes, code de conduite, directive, "
-              "règles, consignes de sécurité, lignes directrices, protocole sanitaire, normes",
+              "règles, consignes de sécurité, lignes directrices, normes",
      .weak = ""},
     {.kind = DocumentKind::notice,
      .nouns = "annonce, annonces, avis, note d'information, circulaire, convocation, communication interne, "
@@ -167,18 +162,18 @@ constexpr Layered words[] = {
               "lettre d'invitation, rappel",
      .weak = ""},
     {.kind = DocumentKind::jobPosting,
-     .nouns = "offre d'emploi, offres d'emploi, annonce d'emploi, fiche de poste, fiches de poste, offre de stage, "
-              "offres de stage, offre d'alternance, description de poste, profil de poste, annonce de recrutement, "
-              "recrutement, avis de recrutement",
+     .nouns = "offre d'emploi, offres d'emploi, annonce d'emploi, fiche de poste, fiches de poste, "
+              "offre de stage, offres de stage, offre d'alternance, description de poste, profil de poste, "
+              "annonce de recrutement, recrutement, avis de recrutement, annonce recrutement",
      .weak = ""},
     {.kind = DocumentKind::email,
      .nouns = "courriel, courriels, lettre, courrier, mail de relance, e-mail de relance, "
               "mail de remerciement, e-mail de bienvenue, mail de bienvenue, mail de prospection, "
-              "e-mail de prospection, mail de confirmation, réponse au client, mail d'excuses, relance client",
+              "réponse au client, mail d'excuses, relance client",
      .weak = "mail, mails, e-mail, e-mails"},
     {.kind = DocumentKind::faq,
      .nouns = "foire aux questions, questions fréquentes, faq, questions fréquemment posées, "
-              "questions-réponses, questions et réponses, article d'aide",
+              "questions-réponses, questions et réponses",
      .weak = ""},
     {.kind = DocumentKind::blogPost,
      .nouns = "article de blog, article, articles, billet, témoignage, témoignages, reportage, "
@@ -187,7 +182,7 @@ constexpr Layered words[] = {
     {.kind = DocumentKind::script,
      .nouns = "scénario, scénarios, discours, script vidéo, script de podcast, pièce de théâtre, sous-titres, "
               "dialogue, dialogues, allocution, storyboard, éloge funèbre, script podcast, "
-              "conducteur de l'émission",
+              "conducteur de l'émission, transcription",
      .weak = ""},
     {.kind = DocumentKind::essay,
      .nouns = "essai, essais, tribune, éditorial, édito, chronique, critique de film, critique littéraire, "
@@ -199,7 +194,7 @@ constexpr Layered words[] = {
               "histoire pour enfants, poème, poèmes, récit, récits, fable, paroles",
      .weak = ""},
     {.kind = DocumentKind::translation,
-     .nouns = "traduction, traductions, version française, version anglaise, texte traduit",
+     .nouns = "traduction, traductions, version française, version anglaise",
      .weak = ""},
     {.kind = DocumentKind::learning,
      .nouns = "cours, support de cours, supports de cours, plan de cours, programme de formation, "
@@ -213,7 +208,7 @@ constexpr Layered words[] = {
     {.kind = DocumentKind::studyNotes,
      .nouns = "fiche de révision, fiches de révision, révisions, fiche de synthèse, fiches de synthèse, "
               "résumé de cours, aide-mémoire, fiche de cours, fiches de cours, vocabulaire, notes de révision, "
-              "résumé de chapitre, carte mentale",
+              "résumé de chapitre, carte mentale, résumé du chapitre",
      .weak = ""},
     {.kind = DocumentKind::readingNotes,
      .nouns = "fiche de lecture, fiches de lecture, notes de lecture, note de lecture, compte rendu de lecture, "
@@ -227,7 +222,7 @@ constexpr Layered words[] = {
     {.kind = DocumentKind::solutions,
      .nouns = "corrigé, corrigés, solution des exercices, éléments de correction, correction du, "
               "correction des, correction exercices, solutions des exercices, réponses, barème, "
-              "correction de l'examen",
+              "correction de l'examen, correction exercice",
      .weak = ""},
     {.kind = DocumentKind::quiz,
      .nouns = "qcm, sujet d'examen, devoir surveillé, interrogation, interro, contrôle de connaissances, "
@@ -236,16 +231,16 @@ constexpr Layered words[] = {
      .weak = "quiz, examen, examens, contrôle, contrôles"},
     {.kind = DocumentKind::errorNotes,
      .nouns = "cahier d'erreurs, cahier des erreurs, carnet d'erreurs, analyse des erreurs, relevé d'erreurs, "
-              "mes erreurs",
+              "mes erreurs, mes fautes",
      .weak = ""},
     {.kind = DocumentKind::paper,
-     .nouns = "mémoire, mémoires, thèse, thèses, article scientifique, articles scientifiques, article de recherche, "
-              "articles de recherche, rapport de recherche, publication scientifique, actes de colloque, "
+     .nouns = "mémoire, mémoires, thèse, thèses, article scientifique, articles scientifiques, "
+              "article de recherche, articles de recherche, rapport de recherche, actes de colloque, "
               "projet de thèse",
      .weak = ""},
     {.kind = DocumentKind::journal,
      .nouns = "journal intime, journal de bord, carnet de bord, journal personnel, journal de gratitude, "
-              "journal de voyage, carnet de voyage",
+              "journal de voyage, carnet de voyage, carnet de gratitude",
      .weak = ""},
     {.kind = DocumentKind::resume,
      .nouns = "curriculum vitae, lettre de motivation, lettres de motivation, dossier de candidature, "
@@ -253,7 +248,7 @@ constexpr Layered words[] = {
      .weak = "cv"},
     {.kind = DocumentKind::travelPlan,
      .nouns = "itinéraire, voyage, programme de voyage, plan de voyage, planning de voyage, "
-              "programme de visite, séjour, circuit touristique, programme week-end, programme du voyage",
+              "programme de visite, séjour, programme week-end, programme du voyage, programme du séjour",
      .weak = ""},
     {.kind = DocumentKind::recipe,
      .nouns = "recette, recettes, carnet de recettes, fiche recette, menu de la semaine, menus de la semaine, "

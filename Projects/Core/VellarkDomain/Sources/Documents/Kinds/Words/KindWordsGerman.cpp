@@ -23,7 +23,7 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::plan,
      .nouns = "plan, zeitplan, terminplan, projektplan, maßnahmenplan, wochenplan, dienstplan, planung, "
-              "strategie, roadmap, schichtplan, migrationsplan, roadmaps, okr, strategiepapier",
+              "strategie, roadmap, schichtplan, migrationsplan, roadmaps, okr",
      .weak = ""},
     {.kind = DocumentKind::userStories,
      .nouns = "user story, user stories, nutzergeschichte, anwendungsfall, anwendungsfälle, "
@@ -31,7 +31,7 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::meetingNotes,
      .nouns = "protokoll, besprechungsnotiz, besprechungsnotizen, gesprächsnotiz, tagesordnung, "
-              "meeting-notizen, agenda",
+              "meeting-notizen, agenda, meeting notes, meeting minutes",
      .weak = ""},
     {.kind = DocumentKind::report,
      .nouns = "bericht, report, analyse, auswertung, gutachten, versuchsprotokoll, berichte",
@@ -71,10 +71,10 @@ constexpr Layered words[] = {
     {.kind = DocumentKind::bugReport,
      .nouns = "fehlerbericht, fehlermeldung, bugreport, störungsmeldung, fehlerliste, bug report",
      .weak = ""},
-    {.kind = DocumentKind::codeReview, .nouns = "code review, codedurchsicht", .weak = ""},
+    {.kind = DocumentKind::codeReview, .nouns = "code review, codedurchsicht, codeprüfung", .weak = ""},
     {.kind = DocumentKind::postmortem,
-     .nouns = "postmortem, störungsbericht, vorfallsbericht, ausfallbericht, incident-bericht, "
-              "ursachenanalyse, fehleranalyse, unfallbericht, vorfallanalyse, post mortem, incident report",
+     .nouns = "postmortem, störungsbericht, ausfallbericht, incident-bericht, ursachenanalyse, fehleranalyse, "
+              "unfallbericht, vorfallanalyse, post mortem, incident report",
      .weak = ""},
     {.kind = DocumentKind::changelog,
      .nouns = "changelog, release notes, änderungsprotokoll, änderungshistorie, versionshinweise, "
@@ -86,7 +86,7 @@ constexpr Layered words[] = {
               "prozessbeschreibung, anleitungen, schritt-für-schritt-anleitung, runbook",
      .weak = ""},
     {.kind = DocumentKind::data,
-     .nouns = "daten, datensatz, tabelle, statistik, kennzahlen, messwerte, liste, inventar, statistiken",
+     .nouns = "daten, datensatz, tabelle, statistik, kennzahlen, messwerte, liste, inventar, zahlen",
      .weak = ""},
     {.kind = DocumentKind::prompt, .nouns = "prompt, prompts, systemprompt, prompt-vorlage", .weak = ""},
     {.kind = DocumentKind::design,
@@ -95,7 +95,7 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::designSystem,
      .nouns = "designsystem, design system, styleguide, gestaltungsrichtlinien, markenhandbuch, "
-              "design-handbuch, style guide, design tokens",
+              "design-handbuch, style guide, design tokens, markenrichtlinien",
      .weak = ""},
     {.kind = DocumentKind::marketingCopy,
      .nouns = "werbetext, werbetexte, anzeigentext, slogan, produktbeschreibung, produkttext, broschüre, "
@@ -152,8 +152,8 @@ constexpr Layered words[] = {
      .nouns = "blogbeitrag, blogpost, gastbeitrag, artikel, erfahrungsbericht, reisebericht, blog post",
      .weak = ""},
     {.kind = DocumentKind::script,
-     .nouns = "drehbuch, rede, sprechtext, videoskript, theaterstück, untertitel, ansprache, podcast-skript, "
-              "hörspiel, moderationstext, sprechertext",
+     .nouns = "drehbuch, rede, videoskript, theaterstück, untertitel, ansprache, podcast-skript, hörspiel, "
+              "moderationstext, sprechertext",
      .weak = ""},
     {.kind = DocumentKind::essay,
      .nouns = "essay, aufsatz, kolumne, kommentar, rezension, leitartikel, erörterung, filmkritik, "
@@ -164,11 +164,13 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::translation, .nouns = "übersetzung, englische fassung, lokalisierung", .weak = ""},
     {.kind = DocumentKind::learning,
-     .nouns = "lehrplan, lehrmaterial, lernmaterial, unterrichtsmaterial, unterrichtsmaterialien, "
-              "unterrichtsentwurf, unterrichtsplanung, schulungsunterlagen, kursunterlagen, lehrbuch, "
-              "modulhandbuch, stoffverteilungsplan, seminarplan, arbeitsheft, lernplan, schulungskonzept",
+     .nouns = "lehrplan, lernmaterial, unterrichtsmaterial, unterrichtsmaterialien, unterrichtsentwurf, "
+              "unterrichtsplanung, schulungsunterlagen, kursunterlagen, modulhandbuch, stoffverteilungsplan, "
+              "seminarplan, arbeitsheft, lernplan, schulungskonzept, syllabus",
      .weak = ""},
-    {.kind = DocumentKind::lectureNotes, .nouns = "mitschrift, vorlesungsnotizen, vorlesungsskript", .weak = ""},
+    {.kind = DocumentKind::lectureNotes,
+     .nouns = "mitschrift, vorlesungsnotizen, vorlesungsskript, lecture notes",
+     .weak = ""},
     {.kind = DocumentKind::studyNotes,
      .nouns = "lernzettel, karteikarten, prüfungsvorbereitung, vokabelliste, vokabeln, formelsammlung, "
               "lernkarten, spickzettel, zusammenfassung",
@@ -199,7 +201,7 @@ constexpr Layered words[] = {
               "empfehlungsschreiben, arbeitszeugnis",
      .weak = ""},
     {.kind = DocumentKind::travelPlan,
-     .nouns = "reiseplan, reiseplanung, reiseroute, reiseverlauf, reiseprogramm, urlaubsplan, urlaubsplanung",
+     .nouns = "reiseplan, reiseplanung, reiseroute, reiseprogramm, urlaubsplan, urlaubsplanung",
      .weak = ""},
     {.kind = DocumentKind::recipe,
      .nouns = "rezept, rezepte, kochbuch, speiseplan, essensplan, rezeptsammlung, menü",

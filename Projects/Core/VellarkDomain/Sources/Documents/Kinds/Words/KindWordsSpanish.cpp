@@ -20,7 +20,7 @@ constexpr std::array<Layered, 55> words{{
     {DocumentKind::spec,
      "especificación, especificaciones, pliego de condiciones, requisitos, requerimientos, "
      "análisis de requisitos, análisis funcional, definición funcional, ficha técnica, "
-     "términos de referencia, fichas técnicas, documento de requisitos, pliego de, ers",
+     "términos de referencia, fichas técnicas, documento de requisitos, pliego de, ers, pliego",
      ""},
     {DocumentKind::plan,
      "plan, planes, planificación, hoja de ruta, roadmap, cronograma, calendario, estrategia, "
@@ -29,8 +29,8 @@ constexpr std::array<Layered, 55> words{{
      "programación anual, agenda semanal, cuadrante",
      ""},
     {DocumentKind::userStories,
-     "historias de usuario, historia de usuario, casos de uso, caso de uso, épicas, "
-     "criterios de aceptación, backlog del producto, hu",
+     "historias de usuario, historia de usuario, casos de uso, caso de uso, criterios de aceptación, "
+     "backlog del producto, hu",
      ""},
     {DocumentKind::meetingNotes,
      "acta, minuta, notas de reunión, notas de la reunión, resumen de la reunión, resumen de reunión, "
@@ -40,7 +40,7 @@ constexpr std::array<Layered, 55> words{{
      "informe, informes, reporte, reportes, análisis, resumen ejecutivo, resumen semanal, "
      "resumen mensual, memoria anual, memoria de actividades, auditoría, diagnóstico, evaluación, "
      "borrador del informe, auditorías, resumen trimestral, parte de trabajo, dictamen, "
-     "cuadro de mando, libro blanco",
+     "cuadro de mando, libro blanco, avance",
      ""},
     {DocumentKind::research,
      "investigación, estudio, análisis de mercado, análisis del mercado, análisis de la competencia, "
@@ -61,7 +61,9 @@ constexpr std::array<Layered, 55> words{{
      "propuesta, anteproyecto, solicitud de subvención, borrador de propuesta, solicitud de beca, "
      "solicitud de financiación, licitación, oferta técnica, recomendaciones",
      ""},
-    {DocumentKind::memo, "memorando, memo, nota, notas, recordatorio, lluvia de ideas, memorándum, apuntes rápidos",
+    {DocumentKind::memo,
+     "memorando, memo, nota, notas, recordatorio, lluvia de ideas, memorándum, apuntes rápidos, "
+     "ideas sueltas",
      ""},
     {DocumentKind::presentation, "presentación, diapositivas, ponencia, charla, exposición", ""},
     {DocumentKind::designDoc,
@@ -118,7 +120,7 @@ constexpr std::array<Layered, 55> words{{
     {DocumentKind::marketingCopy,
      "texto publicitario, textos publicitarios, copy publicitario, copy de, anuncio publicitario, "
      "eslogan, eslóganes, folleto, descripción de producto, descripción del producto, "
-     "página de aterrizaje, página de ventas, texto para, tríptico, copys",
+     "página de aterrizaje, página de ventas, texto para, tríptico, copys, textos para",
      ""},
     {DocumentKind::sales,
      "material de ventas, argumentario, presentación comercial, presentación de ventas, "
@@ -162,8 +164,7 @@ constexpr std::array<Layered, 55> words{{
      ""},
     {DocumentKind::jobPosting,
      "oferta de empleo, oferta de trabajo, anuncio de empleo, vacante, descripción del puesto, "
-     "perfil del puesto, convocatoria de empleo, se busca, buscamos, descripción de puesto, "
-     "anuncio de trabajo",
+     "perfil del puesto, convocatoria de empleo, buscamos, descripción de puesto, anuncio de trabajo",
      ""},
     {DocumentKind::email,
      "correo electrónico, correo de bienvenida, correo de seguimiento, correo para, correo a, "
@@ -193,9 +194,7 @@ constexpr std::array<Layered, 55> words{{
      "capítulo de la novela, letra de canción, sinopsis",
      "historia, historias"},
     {DocumentKind::translation,
-     "traducción, borrador de traducción, texto traducido, versión en inglés, versión en español, "
-     "versión inglesa",
-     ""},
+     "traducción, borrador de traducción, versión en inglés, versión en español, versión inglesa", ""},
     {DocumentKind::learning,
      "material didáctico, material de estudio, material del curso, material de formación, curso, "
      "cursos, temario, plan de estudios, plan de clase, plan de formación, plan de aprendizaje, "
@@ -241,9 +240,9 @@ constexpr std::array<Layered, 55> words{{
      ""},
     {DocumentKind::paper,
      "tesis, tesina, trabajo de fin de grado, trabajo fin de grado, trabajo de fin de máster, "
-     "trabajo fin de máster, trabajo de grado, trabajo de investigación, trabajo académico, "
-     "tfg, tfm, artículo científico, artículos científicos, artículo académico, artículo de "
-     "investigación, disertación, monografía, proyecto de investigación, marco teórico",
+     "trabajo fin de máster, trabajo de grado, trabajo de investigación, trabajo académico, tfg, tfm, "
+     "artículo científico, artículos científicos, artículo académico, artículo de investigación, "
+     "monografía, proyecto de investigación, marco teórico",
      ""},
     {DocumentKind::journal, "diario, mi diario, entrada de diario, entrada del diario, bitácora, reflexión personal",
      ""},
