@@ -82,7 +82,7 @@ constexpr auto rows = std::to_array<Base>({
     {.kind = designDoc,
      .names = "design doc, design document, architecture, system design, technical design, software design, "
               "database design, api design, adr, rfc, data model, decision record, schema, diagram, erd, "
-              "detailed design, flowchart",
+              "detailed design, flowchart, design decision",
      .cues = "architecture, microservice, database, infrastructure, backend",
      .weak = "diagram, decision, model",
      .markers = "context, decision, consequences, alternatives considered, trade off, alternative"},
@@ -121,7 +121,7 @@ constexpr auto rows = std::to_array<Base>({
      .markers = "added, changed, fixed, bug fix, breaking change, new feature"},
     {.kind = guide,
      .names = "guide, manual, how to, howto, readme, guideline, best practice, instruction, onboarding, "
-              "procedure, troubleshooting, installation, handover, runbooks, tutorials, sops",
+              "procedure, handover, runbooks, tutorials, sops",
      .cues = "setup, install, installation, deployment, how to, onboarding, step by step",
      .weak = "how, guide, steps, tips, setup",
      .markers = "prerequisite, troubleshooting, step, getting started"},
@@ -185,7 +185,7 @@ constexpr auto rows = std::to_array<Base>({
      .markers = "subtotal, vat, total"},
     {.kind = legal,
      .names = "contract, agreement, terms, terms and conditions, license, licence, lease, sla, msa, mou, sow, "
-              "eula, disclaimer, consent form, bylaw, affidavit, waiver, deed",
+              "eula, disclaimer, consent form, bylaw, affidavit, waiver",
      .cues = "legal, statement of work, patent, copyright",
      .weak = "conditions, statement",
      .markers = "governing law, confidentiality, termination, this agreement"},
@@ -234,11 +234,7 @@ constexpr auto rows = std::to_array<Base>({
      .cues = "novel, fiction",
      .weak = "chapter",
      .markers = ""},
-    {.kind = translation,
-     .names = "translation, localization, english version",
-     .cues = "translated",
-     .weak = "",
-     .markers = ""},
+    {.kind = translation, .names = "translation, localization", .cues = "translated", .weak = "", .markers = ""},
     {.kind = learning,
      .names = "lesson plan, unit plan, curriculum, course, study plan, lesson, syllabi",
      .cues = "learning, training, course",

@@ -34,7 +34,7 @@ constexpr Layered words[] = {
               "meeting-notizen, agenda, meeting notes, meeting minutes",
      .weak = ""},
     {.kind = DocumentKind::report,
-     .nouns = "bericht, report, analyse, auswertung, gutachten, versuchsprotokoll, berichte",
+     .nouns = "bericht, report, analyse, auswertung, gutachten, versuchsprotokoll, berichte, audit",
      .weak = ""},
     {.kind = DocumentKind::research,
      .nouns = "recherche, marktforschung, marktanalyse, wettbewerbsanalyse, umfrage, studie, befragung, "
@@ -45,8 +45,7 @@ constexpr Layered words[] = {
      .nouns = "retrospektive, rückblick, lessons learned, retro, retrospective",
      .weak = ""},
     {.kind = DocumentKind::checklist,
-     .nouns = "checkliste, aufgabenliste, to-do-liste, einkaufsliste, packliste, prüfliste, checklist, "
-              "checklists",
+     .nouns = "checkliste, aufgabenliste, to-do-liste, einkaufsliste, packliste, prüfliste, checklist",
      .weak = "aufgaben"},
     {.kind = DocumentKind::proposal, .nouns = "vorschlag, antrag, entscheidungsvorlage, ausschreibung", .weak = ""},
     {.kind = DocumentKind::memo,
@@ -83,7 +82,7 @@ constexpr Layered words[] = {
     {.kind = DocumentKind::guide,
      .nouns = "anleitung, handbuch, leitfaden, guide, einführung, dokumentation, tutorial, ratgeber, "
               "gebrauchsanweisung, arbeitsanweisung, erste schritte, einarbeitungsplan, verfahrensanweisung, "
-              "prozessbeschreibung, anleitungen, schritt-für-schritt-anleitung, runbook",
+              "prozessbeschreibung, anleitungen, schritt-für-schritt-anleitung, runbook, troubleshooting",
      .weak = ""},
     {.kind = DocumentKind::data,
      .nouns = "daten, datensatz, tabelle, statistik, kennzahlen, messwerte, liste, inventar, zahlen",
@@ -113,7 +112,7 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::socialPost,
      .nouns = "social-media-beiträge, social-media-post, linkedin-beitrag, linkedin-post, instagram-beitrag, "
-              "instagram-post, tweet, facebook-beitrag, linkedin post, instagram post",
+              "instagram-post, tweet, facebook-beitrag, linkedin post",
      .weak = ""},
     {.kind = DocumentKind::businessPlan,
      .nouns = "geschäftsplan, businessplan, business plan, geschäftsmodell, gründungskonzept",

@@ -24,7 +24,12 @@ constexpr auto rows = std::to_array<Shared>({
      .names = "분석, 평가, 비교, 비교표, 인사이트, 검토 보고서, 分析, 評価, 评估, 評估, 比較, 对比, 對比, "
               "インサイト, analysis, analyses, assessment, evaluation, insight, deep dive, benchmark, 白皮书, "
               "白皮書, white paper, whitepaper, 백서, 白書, 경과 보고, 情况说明, 项目总结, 季度总结, 年度总结, "
-              "月度总结, 阶段总结, 工作總結, 年度總結, 결과서, 점검 결과서, load test result, test result",
+              "月度总结, 阶段总结, 工作總結, 年度總結, 결과서, 점검 결과서, load test result, test result, "
+              "implementation summary, implementation summaries, investigation finding, work summary, "
+              "project summary, change summary, completion summary, test summary, 개선 결과, 구현 결과, "
+              "작업 결과, 실행 결과, 처리 결과, 검증 결과, 측정 결과, 구현 요약, 작업 요약, 변경 요약, "
+              "진행 요약, 구현 정리, 실험 결과, 実装まとめ, 実装結果, 作業報告, 対応結果, 検証結果, 测试结果, "
+              "測試結果, 实现总结, 实施总结, 调查结果, 验证结果, 完成总结, 修复总结, 重构总结, 优化总结",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<report, codeReview, essay>,
@@ -86,7 +91,8 @@ constexpr auto rows = std::to_array<Shared>({
               "工作安排, 活动安排, ガントチャート, 進行表, 甘特图, 甘特圖, 日程, calendar, 스케줄, 予定表, "
               "工程表, 근무표, 스케줄표, 액션 플랜, 마스터 플랜, 세부 추진 계획, shift schedule, 推进表, "
               "值班表, 时间安排, 日历, 排班表, 应急预案, 年間予定, シフト表, アクション プラン, 時間割, "
-              "当番表, マイルストーン, 편성표",
+              "当番表, マイルストーン, 편성표, task breakdown, 작업 분해, 작업 목록, 작업 분류, タスク 分解, "
+              "任务分解, 任务拆解",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<finance, report>,
@@ -142,7 +148,8 @@ constexpr auto rows = std::to_array<Shared>({
      .names = "brainstorm, brainstorming, brain dump, 생각 정리, 便条, 便條, 随手记, 灵感, 头脑风暴, 走り書き, "
               "覚え書き, 备忘, 備忘錄, アイデア, 伝言メモ, idea, 아이디어, 아이디어 노트, 便签, 便簽, 備忘録, "
               "낙서, 끄적임, scratchpad, jottings, sticky note, note to self, 想法, 頭腦風暴, 随记, ネタ帳, "
-              "ひらめき, 随手笔记, 隨手筆記, 隨筆記",
+              "ひらめき, 随手笔记, 隨手筆記, 隨筆記, handoff note, handover note, session note, 세션 노트, "
+              "작업 메모, 作業メモ, 工作笔记",
      .generics = "정리, 정리본, 요약, 요약본, 요약문, 요약 정리, 초고, 초벌, 의견, 노트, 기록, 기록지, 기록물, "
                  "결과, 내용, summary, summaries, notes, note, recap, takeaways, takeaway, records, record, "
                  "findings, variants, january, february, march, april, may, june, july, august, september, "
@@ -184,7 +191,7 @@ constexpr auto rows = std::to_array<Shared>({
                  "総務課, 営業課, 총무팀, 영업팀, 개발팀, 인사팀, 마케팅팀, 재무팀, 기획팀, 各位, 一式, 付き, "
                  "字幕つき, 改定版, 改定, 説明つき, 今週分, 来週分, 今月分, 夏休み, 冬休み, 寒假, 暑假, 学期末, "
                  "初中, 高中, 小学, 一年级, 二年级, 三年级, 四年级, 五年级, 六年级, 年级, 年級, 年生, 小学生, "
-                 "中学生, 高校生",
+                 "中学生, 高校生, 사항, 안건별, 모음집",
      .cues = ""},
     {.kinds = anyOf<journal, changelog>,
      .names = "일지, 작업 일지, 개발 일지, 운동 일지, 실험 일지, 연구 일지, 작업 로그, work log, dev log, "
@@ -220,10 +227,12 @@ constexpr auto rows = std::to_array<Shared>({
               "ハンド ブック, 使い方, 書き方, 가이드북, 작업 절차, 표준 작업 절차서, 팁 모음, 핸드북, "
               "길라잡이, 使用說明, 作业指导书, 常用命令, 最佳实践, 快速入门, 技巧汇总, 注意事项, 注意事項, "
               "業務 フロー, 早わかり, 虎の巻, 引継書, 作業 要領, 引き継ぎ書, 引継ぎ書, 引き継ぎ 資料, "
-              "引継ぎ 資料",
+              "引継ぎ 資料, 트러블슈팅, 환경 설정, 환경 구성, 문제 해결 가이드, トラブル シューティング, "
+              "環境 設定, 故障排查, 问题排查, 環境建置, 环境搭建, 环境配置",
      .generics = "문서, 문서화, 서류, 개요, 소개, 입문, 기초, documents, document, documentation, doc, docs, "
-                 "overview, introduction, intro, basics, fundamentals, 文書, ドキュメント, 概要, 紹介, 入門, 基礎, "
-                 "文档, 文檔, 文件, 概述, 简介, 簡介, 介绍, 介紹, 入门, 基础",
+                 "overview, introduction, intro, basics, fundamentals, 文書, ドキュメント, 概要, 紹介, 入門, "
+                 "基礎, 文档, 文檔, 文件, 概述, 简介, 簡介, 介绍, 介紹, 入门, 基础, 概览, 概覽, 总览, 개괄, "
+                 "총정리, 一览",
      .cues = ""},
 });
 
