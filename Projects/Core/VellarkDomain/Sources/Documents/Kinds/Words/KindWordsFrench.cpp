@@ -35,12 +35,14 @@ constexpr Layered words[] = {
     {.kind = DocumentKind::report,
      .nouns = "rapport, rapports, bilan, bilans, reporting, synthèse, synthèses, note de synthèse, "
               "tableau de bord, tableaux de bord, état d'avancement, point d'avancement, analyse, diagnostic, "
-              "évaluation, évaluations, livre blanc, compte rendu d'activité, point d'étape, résultats",
+              "évaluation, évaluations, livre blanc, compte rendu d'activité, point d'étape, résultats, "
+              "résumé des modifications",
      .weak = "suivi, suivis"},
     {.kind = DocumentKind::research,
      .nouns = "étude, études, recherche, enquête, sondage, analyse concurrentielle, analyse de marché, veille, "
               "état de l'art, revue de littérature, revue de la littérature, questionnaire, "
-              "benchmark concurrentiel, synthèse des entretiens, résultats du sondage, résultats de l'enquête",
+              "benchmark concurrentiel, synthèse des entretiens, résultats du sondage, résultats de l'enquête, "
+              "comparatif",
      .weak = ""},
     {.kind = DocumentKind::retrospective,
      .nouns = "rétrospective, rétro, retour d'expérience, retours d'expérience, bilan de projet, bilan "
@@ -66,7 +68,8 @@ constexpr Layered words[] = {
     {.kind = DocumentKind::designDoc,
      .nouns = "document de conception, dossier de conception, conception, architecture technique, "
               "architecture logicielle, dossier d'architecture, document d'architecture, "
-              "schéma d'architecture, décision d'architecture, modèle de données, diagramme de séquence, schéma",
+              "schéma d'architecture, décision d'architecture, modèle de données, diagramme de séquence, "
+              "schéma, vue d'ensemble de l'architecture",
      .weak = ""},
     {.kind = DocumentKind::apiDoc,
      .nouns = "documentation api, documentation d'api, documentation de l'api, référence api, "
@@ -96,7 +99,7 @@ constexpr Layered words[] = {
               "notice d'utilisation, guide utilisateur, guide d'installation, guide pratique, fiche pratique, "
               "livret d'accueil, consignes, prise en main, mode opératoire, bonnes pratiques, "
               "documentation technique, documentation utilisateur, guide d'accueil, vademecum, "
-              "guide d'utilisation",
+              "guide d'utilisation, instructions d'installation",
      .weak = "méthode, démarche, étapes"},
     {.kind = DocumentKind::data,
      .nouns = "données, jeu de données, statistiques, chiffres clés, indicateurs, tableau de suivi, "
@@ -176,8 +179,8 @@ constexpr Layered words[] = {
               "questions-réponses, questions et réponses",
      .weak = ""},
     {.kind = DocumentKind::blogPost,
-     .nouns = "article de blog, article, articles, billet, témoignage, témoignages, reportage, "
-              "récit de voyage, article blog",
+     .nouns = "article de blog, article, billet, témoignage, témoignages, reportage, récit de voyage, "
+              "article blog, articles de blog",
      .weak = ""},
     {.kind = DocumentKind::script,
      .nouns = "scénario, scénarios, discours, script vidéo, script de podcast, pièce de théâtre, sous-titres, "
@@ -186,12 +189,12 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::essay,
      .nouns = "essai, essais, tribune, éditorial, édito, chronique, critique de film, critique littéraire, "
-              "commentaire de texte, billet d'humeur, rédaction, réflexion, point de vue, "
-              "dissertation de philosophie, commentaire composé, critique du film",
+              "commentaire de texte, billet d'humeur, rédaction, point de vue, dissertation de philosophie, "
+              "commentaire composé, critique du film",
      .weak = ""},
     {.kind = DocumentKind::story,
-     .nouns = "roman, conte, nouvelle littéraire, recueil de nouvelles, histoire courte, "
-              "histoire pour enfants, poème, poèmes, récit, récits, fable, paroles",
+     .nouns = "roman, conte, nouvelle littéraire, recueil de nouvelles, histoire pour enfants, poème, poèmes, "
+              "récit, récits, fable, paroles",
      .weak = ""},
     {.kind = DocumentKind::translation,
      .nouns = "traduction, traductions, version française, version anglaise",
@@ -199,15 +202,15 @@ constexpr Layered words[] = {
     {.kind = DocumentKind::learning,
      .nouns = "cours, support de cours, supports de cours, plan de cours, programme de formation, "
               "support de formation, plan de formation, module de formation, formation, formations, "
-              "séquence pédagogique, fiche pédagogique, fiche de préparation, leçon, leçons, manuel scolaire, "
+              "séquence pédagogique, fiche pédagogique, fiche de préparation, leçon, leçons, "
               "livret de formation, progression annuelle",
      .weak = ""},
     {.kind = DocumentKind::lectureNotes,
      .nouns = "notes de cours, prise de notes, notes de conférence, notes de séminaire, polycopié",
      .weak = ""},
     {.kind = DocumentKind::studyNotes,
-     .nouns = "fiche de révision, fiches de révision, révisions, fiche de synthèse, fiches de synthèse, "
-              "résumé de cours, aide-mémoire, fiche de cours, fiches de cours, vocabulaire, notes de révision, "
+     .nouns = "fiche de révision, fiches de révision, révisions, fiche de synthèse, résumé de cours, "
+              "aide-mémoire, fiche de cours, fiches de cours, vocabulaire, notes de révision, "
               "résumé de chapitre, carte mentale, résumé du chapitre",
      .weak = ""},
     {.kind = DocumentKind::readingNotes,

@@ -57,7 +57,7 @@ constexpr Layered words[] = {
     {.kind = DocumentKind::designDoc,
      .nouns = "architektur, architekturkonzept, architekturentscheidung, technisches konzept, feinkonzept, "
               "systementwurf, datenmodell, architekturentwurf, architekturdokument, technisches design, "
-              "entwurfsdokument, ablaufdiagramm, grobkonzept",
+              "entwurfsdokument, ablaufdiagramm, grobkonzept, architekturübersicht",
      .weak = ""},
     {.kind = DocumentKind::apiDoc,
      .nouns = "api-dokumentation, api-referenz, api-spezifikation, schnittstellenbeschreibung, "
@@ -196,8 +196,8 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::journal, .nouns = "tagebuch, tagebucheintrag, logbuch", .weak = ""},
     {.kind = DocumentKind::resume,
-     .nouns = "lebenslauf, bewerbung, bewerbungsschreiben, motivationsschreiben, bewerbungsunterlagen, "
-              "empfehlungsschreiben, arbeitszeugnis",
+     .nouns = "lebenslauf, bewerbung, bewerbungsschreiben, motivationsschreiben, empfehlungsschreiben, "
+              "arbeitszeugnis",
      .weak = ""},
     {.kind = DocumentKind::travelPlan,
      .nouns = "reiseplan, reiseplanung, reiseroute, reiseprogramm, urlaubsplan, urlaubsplanung",

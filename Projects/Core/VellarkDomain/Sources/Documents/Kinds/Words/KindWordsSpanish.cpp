@@ -26,7 +26,7 @@ constexpr std::array<Layered, 55> words{{
      "plan, planes, planificación, hoja de ruta, roadmap, cronograma, calendario, estrategia, "
      "estrategias, objetivos, plan estratégico, plan operativo, plan anual, plan mensual, "
      "plan semanal, plan comercial, horario, programa de mantenimiento, calendario editorial, "
-     "programación anual, agenda semanal, cuadrante",
+     "programación anual, agenda semanal, cuadrante, planificación semanal",
      ""},
     {DocumentKind::userStories,
      "historias de usuario, historia de usuario, casos de uso, caso de uso, criterios de aceptación, "
@@ -40,7 +40,7 @@ constexpr std::array<Layered, 55> words{{
      "informe, informes, reporte, reportes, análisis, resumen ejecutivo, resumen semanal, "
      "resumen mensual, memoria anual, memoria de actividades, auditoría, diagnóstico, evaluación, "
      "borrador del informe, auditorías, resumen trimestral, parte de trabajo, dictamen, "
-     "cuadro de mando, libro blanco, avance",
+     "cuadro de mando, libro blanco, avance, resumen de",
      ""},
     {DocumentKind::research,
      "investigación, estudio, análisis de mercado, análisis del mercado, análisis de la competencia, "
@@ -70,7 +70,7 @@ constexpr std::array<Layered, 55> words{{
      "documento de diseño, diseño técnico, diseño de arquitectura, diseño del sistema, "
      "diseño de software, diseño de base de datos, decisión de arquitectura, modelo de datos, "
      "esquema de base de datos, rfc, documento de arquitectura, arquitectura, diagrama, "
-     "diagrama de flujo",
+     "diagrama de flujo, visión general de la arquitectura",
      ""},
     {DocumentKind::apiDoc,
      "documentación de la api, documentación de api, referencia de la api, referencia de api, "
@@ -123,9 +123,9 @@ constexpr std::array<Layered, 55> words{{
      "página de aterrizaje, página de ventas, texto para, tríptico, copys, textos para",
      ""},
     {DocumentKind::sales,
-     "material de ventas, argumentario, presentación comercial, presentación de ventas, "
-     "oferta comercial, dossier comercial, catálogo, lista de precios, tarifas, caso de éxito, "
-     "casos de éxito, guion de llamada, dossier de empresa, propuesta comercial",
+     "argumentario, presentación comercial, presentación de ventas, oferta comercial, "
+     "dossier comercial, catálogo, lista de precios, tarifas, caso de éxito, casos de éxito, "
+     "guion de llamada, dossier de empresa, propuesta comercial",
      ""},
     {DocumentKind::pressRelease,
      "nota de prensa, comunicado de prensa, dossier de prensa, boletín de prensa, "
@@ -190,7 +190,7 @@ constexpr std::array<Layered, 55> words{{
      "comentario de texto, análisis literario, redacción, reflexión",
      ""},
     {DocumentKind::story,
-     "cuento, relato, novela, microrrelato, poema, poesía, poemario, fábula, historia corta, "
+     "cuento, relato, novela, microrrelato, poema, poesía, fábula, historia corta, "
      "capítulo de la novela, letra de canción, sinopsis",
      "historia, historias"},
     {DocumentKind::translation,
@@ -200,7 +200,7 @@ constexpr std::array<Layered, 55> words{{
      "cursos, temario, plan de estudios, plan de clase, plan de formación, plan de aprendizaje, "
      "programa del curso, programa de la asignatura, programa de formación, programación didáctica, "
      "guía docente, guía didáctica, unidad didáctica, secuencia didáctica, sílabo, lección, "
-     "lecciones, planeación didáctica, taller de, cuaderno de trabajo",
+     "lecciones, taller de, cuaderno de trabajo",
      ""},
     {DocumentKind::lectureNotes,
      "apuntes de clase, apuntes del curso, notas de clase, notas del curso, resumen de la clase, "

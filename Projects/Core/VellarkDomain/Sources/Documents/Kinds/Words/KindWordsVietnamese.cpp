@@ -35,7 +35,7 @@ constexpr std::array<Layered, 55> words{{
      ""},
     {DocumentKind::report,
      "báo cáo, bản báo cáo, phân tích, đánh giá, tổng kết, kiểm toán, bài báo cáo, sơ kết, bc, "
-     "kết quả",
+     "kết quả, tóm tắt",
      ""},
     {DocumentKind::research,
      "nghiên cứu, bài nghiên cứu, khảo sát, phân tích thị trường, phân tích đối thủ, "
@@ -56,7 +56,8 @@ constexpr std::array<Layered, 55> words{{
      ""},
     {DocumentKind::designDoc,
      "tài liệu thiết kế, thiết kế hệ thống, thiết kế kỹ thuật, thiết kế phần mềm, "
-     "thiết kế cơ sở dữ liệu, mô hình dữ liệu, sơ đồ kiến trúc, lưu đồ, kiến trúc",
+     "thiết kế cơ sở dữ liệu, mô hình dữ liệu, sơ đồ kiến trúc, lưu đồ, kiến trúc, "
+     "tổng quan kiến trúc",
      ""},
     {DocumentKind::apiDoc,
      "tài liệu api, đặc tả api, hướng dẫn api, tài liệu tích hợp api, mô tả api, "
@@ -100,8 +101,8 @@ constexpr std::array<Layered, 55> words{{
      "mô tả sản phẩm, bài viết bán hàng, content bán hàng, content quảng cáo, slogan",
      ""},
     {DocumentKind::sales,
-     "tài liệu bán hàng, hồ sơ năng lực, kịch bản bán hàng, bảng giá, thư chào hàng, thư ngỏ, "
-     "chào hàng, hồ sơ chào hàng, kịch bản chốt sale",
+     "tài liệu bán hàng, hồ sơ năng lực, kịch bản bán hàng, bảng giá, thư chào hàng, chào hàng, "
+     "hồ sơ chào hàng, kịch bản chốt sale",
      ""},
     {DocumentKind::pressRelease, "thông cáo, bài thông cáo báo chí, tcbc", ""},
     {DocumentKind::newsletter, "bản tin", ""},
@@ -142,8 +143,8 @@ constexpr std::array<Layered, 55> words{{
     {DocumentKind::blogPost, "bài viết, bài blog, bài đăng blog, bài báo", ""},
     {DocumentKind::script, "kịch bản, lời thoại, phụ đề, bài phát biểu, lời dẫn, diễn văn", ""},
     {DocumentKind::essay,
-     "bài luận, bài tiểu luận, bài văn, cảm nhận, cảm nghĩ, tản văn, phê bình, review phim, "
-     "nghị luận, tùy bút, bài bình, bài cảm nhận",
+     "bài luận, bài tiểu luận, bài văn, cảm nhận, cảm nghĩ, tản văn, review phim, nghị luận, "
+     "tùy bút, bài bình, bài cảm nhận",
      ""},
     {DocumentKind::story, "truyện, tiểu thuyết, bài thơ, thơ, cổ tích, lời bài hát", ""},
     {DocumentKind::translation, "bản dịch, bài dịch, dịch tài liệu, dịch công chứng", ""},
