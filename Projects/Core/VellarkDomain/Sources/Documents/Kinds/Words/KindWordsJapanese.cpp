@@ -140,7 +140,7 @@ constexpr Base words[] = {
      .markers = ""},
     {.kind = DocumentKind::sales,
      .names = "営業 資料, 商談 資料, サービス 紹介, 会社 案内, 導入 事例, 料金表, 価格表, カタログ, "
-              "トーク スクリプト, 導入事例",
+              "トーク スクリプト",
      .cues = "営業, 商談",
      .weak = "",
      .markers = ""},
@@ -165,7 +165,7 @@ constexpr Base words[] = {
      .weak = "",
      .markers = ""},
     {.kind = DocumentKind::finance,
-     .names = "予算, 見積書, 見積もり, 請求書, 領収書, 家計簿, 注文書",
+     .names = "予算, 見積書, 見積もり, 請求書, 領収書, 家計簿, 注文書, 決算報告書",
      .cues = "経費, 会計, 売上",
      .weak = "",
      .markers = ""},

@@ -108,16 +108,20 @@ constexpr auto rows = std::to_array<Shared>({
               "bank statement, billing summary, pay stub, financial projection, credit note, 工资条, 收支明细, "
               "估价单, 成本核算表, 付款申请单, 采购订单, 流水账, 记账本, 予算書, 収支表, 発注書, 給与明細, "
               "納品書, 売上 予測, 振込 依頼書, 会計 報告, 収支 計画, 経費 精算, 決算 報告, 账本, 家庭账本, "
-              "帳本, p l statement, 收支明細, 収支 報告, 決算報告書",
+              "帳本, p l statement, 收支明細, 収支 報告",
      .generics = "",
      .cues = ""},
-    {.kinds = anyOf<businessPlan, presentation, sales>,
+    {.kinds = anyOf<businessPlan, presentation, sales, email>,
      .names = "피치 덱, 피치, ir 자료, ir 덱, 투자 유치 자료, pitch deck, pitch, investor deck, "
               "investor presentation, ir deck, ピッチ資料, ピッチデック, 路演, 路演材料, 商业画布, 商業畫布, "
               "リーン キャンバス, business model canvas, lean canvas, investment memo, 투자 제안서, 수익 모델, "
               "融资计划书, 收益模型, business model, 비즈니스 모델, ビジネス モデル, 商业模式, 商業模式",
      .generics = "",
-     .cues = ""},
+     .cues = "supplier, vendor, partner, candidate, landlord, colleague, application, confirmation, reminder, "
+             "invitation, delay, delivery, late, demo, meeting request, introduction, cancellation, refund, "
+             "complaint, feedback request, 거래처, 협력사, 파트너, 후보자, 납기, 지연, 회신, 안내, 초대, "
+             "취소, 환불, 독촉, 확인, 일정 변경, 取引先, お客様, お断り, 客戶, 供应商, 供應商, 回覆, 感谢, "
+             "感謝, 道歉"},
     {.kinds = anyOf<studyNotes, quiz, learning>,
      .names = "공부, 복습, 예습, 시험 요약, 중간고사 요약, 기말고사 요약, 시험 노트, 勉強, 復習, 复习, 複習, "
               "플래시카드, 암기 카드, flashcard, フラッシュカード, 闪卡, 단어장, 시험 대비, vocabulary list, "
