@@ -148,7 +148,7 @@ constexpr auto rows = std::to_array<Shared>({
              "operating system, networking, python, java, javascript, typescript, rust, golang, kotlin, swift, "
              "react, docker, kubernetes, git, linux, sql, aws, machine learning, deep learning, アルゴリズム, "
              "データ構造, ネットワーク, 算法, 数据结构, 数據結構, 操作系统, 机器学习, 深度学习, 機械学習"},
-    {.kinds = anyOf<memo, journal>,
+    {.kinds = anyOf<memo, journal, resume>,
      .names = "brainstorm, brainstorming, brain dump, 생각 정리, 便条, 便條, 随手记, 灵感, 头脑风暴, 走り書き, "
               "覚え書き, 备忘, 備忘錄, アイデア, 伝言メモ, idea, 아이디어, 아이디어 노트, 便签, 便簽, 備忘録, "
               "낙서, 끄적임, scratchpad, jottings, sticky note, note to self, 想法, 頭腦風暴, 随记, ネタ帳, "
@@ -196,7 +196,8 @@ constexpr auto rows = std::to_array<Shared>({
                  "字幕つき, 改定版, 改定, 説明つき, 今週分, 来週分, 今月分, 夏休み, 冬休み, 寒假, 暑假, 学期末, "
                  "初中, 高中, 小学, 一年级, 二年级, 三年级, 四年级, 五年级, 六年级, 年级, 年級, 年生, 小学生, "
                  "中学生, 高校生, 사항, 안건별, 모음집",
-     .cues = ""},
+     .cues = "analyst, teacher, nurse, accountant, marketer, consultant, intern, graduate, new grad, 개발자, "
+             "디자이너, 매니저, 마케터, 엔지니어, 면접용, エンジニア, デザイナー"},
     {.kinds = anyOf<journal, changelog>,
      .names = "일지, 작업 일지, 개발 일지, 운동 일지, 실험 일지, 연구 일지, 작업 로그, work log, dev log, "
               "devlog, logbook, 日誌, 日志, 운동 기록, 하루 기록, 工作日志, 手帐, 日録, daily log",
