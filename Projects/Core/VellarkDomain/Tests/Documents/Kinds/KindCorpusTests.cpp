@@ -1,4 +1,5 @@
 #include "Documents/Kinds/KindCorpus.hpp"
+#include <VellarkDomain/Documents/Kinds/Classifier/DocumentKindClassifier.hpp>
 
 #include <gtest/gtest.h>
 
@@ -31,6 +32,18 @@ TEST(KindCorpus, isClassifiedAsPromised) {
     }
     EXPECT_LE(100 - corpus.kindless.percent(), mostDecidedWithoutKind) << joined(corpus.kindless.misses);
     EXPECT_GE(corpus.documents.percent(), fewestDocumentsRight) << joined(corpus.documents.misses);
+}
+
+// What agents write as "type:" in front matter.
+TEST(KindCorpus, knowsEachKindByItsOwnName) {
+    for (const DocumentKind kind : allCases<DocumentKind>()) {
+        if (kind == DocumentKind::conversation || kind == DocumentKind::other) continue;
+        DocumentKindEvidence evidence = {.title = "Brightline"};
+        evidence.declared = {std::string(rawValue(kind))};
+        const auto guess = DocumentKindClassifier::classify(evidence);
+        ASSERT_TRUE(guess) << rawValue(kind);
+        EXPECT_EQ(guess->candidates.front(), kind) << rawValue(kind);
+    }
 }
 
 }  // namespace

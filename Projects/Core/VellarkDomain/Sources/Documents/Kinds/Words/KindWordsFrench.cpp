@@ -30,7 +30,7 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::meetingNotes,
      .nouns = "compte rendu, comptes rendus, procès-verbal, procès-verbaux, cr de réunion, cr réunion, "
-              "relevé de décisions, notes de réunion, ordre du jour, point hebdo, pv, cr point, cr",
+              "relevé de décisions, notes de réunion, ordre du jour, point hebdo, pv, cr point, cr, réunions",
      .weak = ""},
     {.kind = DocumentKind::report,
      .nouns = "rapport, rapports, bilan, bilans, reporting, synthèse, synthèses, note de synthèse, "
@@ -63,7 +63,7 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::presentation,
      .nouns = "présentation, diaporama, support de présentation, diapositives, exposé, soutenance, "
-              "support de réunion",
+              "support de réunion, présentations",
      .weak = ""},
     {.kind = DocumentKind::designDoc,
      .nouns = "document de conception, dossier de conception, conception, architecture technique, "
@@ -120,7 +120,7 @@ constexpr Layered words[] = {
     {.kind = DocumentKind::marketingCopy,
      .nouns = "texte publicitaire, accroche, accroches, slogan, slogans, page de vente, publicité, "
               "annonce publicitaire, dépliant, description produit, fiche produit, texte promotionnel, "
-              "textes publicitaires, affiche, prospectus, textes de la page, texte de la page",
+              "textes publicitaires, prospectus, textes de la page, texte de la page",
      .weak = ""},
     {.kind = DocumentKind::sales,
      .nouns = "offre, argumentaire, présentation commerciale, plaquette commerciale, catalogue, "
@@ -147,7 +147,7 @@ constexpr Layered words[] = {
               "bilan financier, compte de résultat, comptes annuels, plan de financement, plan de trésorerie, "
               "note de frais, notes de frais, état financier, états financiers, rapport financier, "
               "bon de commande, suivi budgétaire, fiche de paie, bulletin de paie, relevé de compte, reçu, "
-              "déclaration fiscale, relevé bancaire, trésorerie",
+              "déclaration fiscale, relevé bancaire, trésorerie, comptabilité",
      .weak = ""},
     {.kind = DocumentKind::legal,
      .nouns = "contrat, contrats, convention, conventions, accord, conditions générales, "
@@ -189,7 +189,7 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::essay,
      .nouns = "essai, essais, tribune, éditorial, édito, chronique, critique de film, critique littéraire, "
-              "commentaire de texte, billet d'humeur, rédaction, point de vue, dissertation de philosophie, "
+              "commentaire de texte, billet d'humeur, rédaction, dissertation de philosophie, "
               "commentaire composé, critique du film",
      .weak = ""},
     {.kind = DocumentKind::story,
@@ -214,8 +214,8 @@ constexpr Layered words[] = {
               "résumé de chapitre, carte mentale, résumé du chapitre",
      .weak = ""},
     {.kind = DocumentKind::readingNotes,
-     .nouns = "fiche de lecture, fiches de lecture, notes de lecture, note de lecture, compte rendu de lecture, "
-              "résumé de livre, résumé du livre, carnet de lecture, journal de lecture",
+     .nouns = "fiche de lecture, fiches de lecture, notes de lecture, note de lecture, "
+              "compte rendu de lecture, résumé de livre, résumé du livre, carnet de lecture",
      .weak = ""},
     {.kind = DocumentKind::exercises,
      .nouns = "exercice, exercices, feuille d'exercices, cahier d'exercices, série d'exercices, "
@@ -228,9 +228,9 @@ constexpr Layered words[] = {
               "correction de l'examen, correction exercice",
      .weak = ""},
     {.kind = DocumentKind::quiz,
-     .nouns = "qcm, sujet d'examen, devoir surveillé, interrogation, interro, contrôle de connaissances, "
-              "épreuve, épreuves, partiel, bac blanc, dictée, sujet de bac, contrôle de mathématiques, "
-              "contrôle continu, contrôle chapitre",
+     .nouns = "qcm, sujet d'examen, devoir surveillé, interrogation, contrôle de connaissances, épreuve, "
+              "épreuves, partiel, bac blanc, dictée, sujet de bac, contrôle de mathématiques, "
+              "contrôle continu, contrôle chapitre, examens",
      .weak = "quiz, examen, examens, contrôle, contrôles"},
     {.kind = DocumentKind::errorNotes,
      .nouns = "cahier d'erreurs, cahier des erreurs, carnet d'erreurs, analyse des erreurs, relevé d'erreurs, "

@@ -31,7 +31,7 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::meetingNotes,
      .nouns = "protokoll, besprechungsnotiz, besprechungsnotizen, gesprächsnotiz, tagesordnung, "
-              "meeting-notizen, agenda, meeting notes, meeting minutes",
+              "meeting-notizen, agenda, meeting notes, meeting minutes, protokolle, besprechungen",
      .weak = ""},
     {.kind = DocumentKind::report,
      .nouns = "bericht, report, analyse, auswertung, gutachten, versuchsprotokoll, berichte, audit",
@@ -47,7 +47,7 @@ constexpr Layered words[] = {
     {.kind = DocumentKind::checklist,
      .nouns = "checkliste, aufgabenliste, to-do-liste, einkaufsliste, packliste, prüfliste, checklist",
      .weak = "aufgaben"},
-    {.kind = DocumentKind::proposal, .nouns = "vorschlag, antrag, entscheidungsvorlage, ausschreibung", .weak = ""},
+    {.kind = DocumentKind::proposal, .nouns = "vorschlag, antrag, ausschreibung", .weak = ""},
     {.kind = DocumentKind::memo,
      .nouns = "notiz, notizen, vermerk, memo an, notizzettel, ideensammlung, memo",
      .weak = ""},
@@ -97,8 +97,8 @@ constexpr Layered words[] = {
               "design-handbuch, style guide, design tokens, markenrichtlinien",
      .weak = ""},
     {.kind = DocumentKind::marketingCopy,
-     .nouns = "werbetext, werbetexte, anzeigentext, slogan, produktbeschreibung, produkttext, broschüre, "
-              "flyer, landingpage, anzeigentexte, faltblatt, verkaufstext, slogans",
+     .nouns = "werbetext, werbetexte, anzeigentext, slogan, produktbeschreibung, broschüre, flyer, "
+              "landingpage, anzeigentexte, faltblatt, verkaufstext, slogans",
      .weak = ""},
     {.kind = DocumentKind::sales,
      .nouns = "angebot, verkaufsunterlagen, vertriebsunterlagen, vertriebspräsentation, verkaufspräsentation, "
@@ -121,7 +121,7 @@ constexpr Layered words[] = {
      .nouns = "budget, budgetplan, finanzplan, kostenplan, haushaltsplan, rechnung, rechnungen, abrechnung, "
               "kostenvoranschlag, jahresabschluss, bilanz, kalkulation, finanzbericht, haushaltsbuch, "
               "steuererklärung, quittung, kostenaufstellung, budgetplanung, mahnung, lieferschein, "
-              "kontoauszug, gutschrift, bestellung, kassenbuch",
+              "kontoauszug, gutschrift, bestellung, kassenbuch, finanzen",
      .weak = ""},
     {.kind = DocumentKind::legal,
      .nouns = "vertrag, vereinbarung, agb, allgemeine geschäftsbedingungen, nutzungsbedingungen, vollmacht, "
@@ -135,10 +135,11 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::notice,
      .nouns = "mitteilung, bekanntmachung, ankündigung, rundschreiben, einladung, hinweis, hinweise, aushang, "
-              "elternbrief, merkblatt, informationsschreiben, benachrichtigung, elterninformation",
+              "elternbrief, merkblatt, benachrichtigung, elterninformation",
      .weak = ""},
     {.kind = DocumentKind::jobPosting,
-     .nouns = "stellenanzeige, stellenausschreibung, stellenangebot, stellenbeschreibung, jobprofil",
+     .nouns = "stellenanzeige, stellenausschreibung, stellenangebot, stellenbeschreibung, jobprofil, "
+              "stellenanzeigen",
      .weak = ""},
     {.kind = DocumentKind::email,
      .nouns = "begleitschreiben, dankschreiben, kündigungsschreiben, antwortschreiben, beschwerdebrief, "
@@ -163,9 +164,9 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::translation, .nouns = "übersetzung, englische fassung, lokalisierung", .weak = ""},
     {.kind = DocumentKind::learning,
-     .nouns = "lehrplan, lernmaterial, unterrichtsmaterial, unterrichtsmaterialien, unterrichtsentwurf, "
-              "unterrichtsplanung, schulungsunterlagen, kursunterlagen, modulhandbuch, stoffverteilungsplan, "
-              "seminarplan, arbeitsheft, lernplan, schulungskonzept, syllabus",
+     .nouns = "lehrplan, unterrichtsmaterial, unterrichtsmaterialien, unterrichtsentwurf, unterrichtsplanung, "
+              "schulungsunterlagen, kursunterlagen, modulhandbuch, stoffverteilungsplan, seminarplan, "
+              "arbeitsheft, lernplan, schulungskonzept, syllabus",
      .weak = ""},
     {.kind = DocumentKind::lectureNotes,
      .nouns = "mitschrift, vorlesungsnotizen, vorlesungsskript, lecture notes",
@@ -183,12 +184,11 @@ constexpr Layered words[] = {
               "arbeitsblätter, aufgabenblatt, hausaufgabe, hausaufgaben, aufgabensammlung",
      .weak = ""},
     {.kind = DocumentKind::solutions,
-     .nouns = "musterlösung, lösungen, lösungsblatt, lösungsweg, lösungsvorschlag, erwartungshorizont, "
-              "lösungsheft, antworten",
+     .nouns = "musterlösung, lösungen, lösungsblatt, lösungsweg, erwartungshorizont, lösungsheft, antworten",
      .weak = ""},
     {.kind = DocumentKind::quiz,
      .nouns = "klausur, klassenarbeit, prüfungsfragen, abschlussprüfung, vokabeltest, quizfragen, "
-              "einstufungstest",
+              "einstufungstest, klausuren",
      .weak = "prüfung, prüfungen, quiz"},
     {.kind = DocumentKind::paper,
      .nouns = "abschlussarbeit, bachelorarbeit, masterarbeit, dissertation, doktorarbeit, hausarbeit, "
@@ -200,11 +200,9 @@ constexpr Layered words[] = {
               "arbeitszeugnis",
      .weak = ""},
     {.kind = DocumentKind::travelPlan,
-     .nouns = "reiseplan, reiseplanung, reiseroute, reiseprogramm, urlaubsplan, urlaubsplanung",
+     .nouns = "reiseplan, reiseplanung, reiseroute, reiseprogramm, urlaubsplan, urlaubsplanung, reisen",
      .weak = ""},
-    {.kind = DocumentKind::recipe,
-     .nouns = "rezept, rezepte, kochbuch, speiseplan, essensplan, rezeptsammlung, menü",
-     .weak = ""},
+    {.kind = DocumentKind::recipe, .nouns = "rezept, rezepte, kochbuch, speiseplan, rezeptsammlung, menü", .weak = ""},
 };
 
 }  // namespace

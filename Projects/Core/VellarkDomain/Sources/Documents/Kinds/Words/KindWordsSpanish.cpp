@@ -34,7 +34,7 @@ constexpr std::array<Layered, 55> words{{
      ""},
     {DocumentKind::meetingNotes,
      "acta, minuta, notas de reunión, notas de la reunión, resumen de la reunión, resumen de reunión, "
-     "orden del día, agenda de la reunión, acuerdos de la reunión, actas",
+     "orden del día, agenda de la reunión, acuerdos de la reunión, actas, reuniones",
      ""},
     {DocumentKind::report,
      "informe, informes, reporte, reportes, análisis, resumen ejecutivo, resumen semanal, "
@@ -65,7 +65,7 @@ constexpr std::array<Layered, 55> words{{
      "memorando, memo, nota, notas, recordatorio, lluvia de ideas, memorándum, apuntes rápidos, "
      "ideas sueltas",
      ""},
-    {DocumentKind::presentation, "presentación, diapositivas, ponencia, charla, exposición", ""},
+    {DocumentKind::presentation, "presentación, diapositivas, ponencia, charla, exposición, presentaciones", ""},
     {DocumentKind::designDoc,
      "documento de diseño, diseño técnico, diseño de arquitectura, diseño del sistema, "
      "diseño de software, diseño de base de datos, decisión de arquitectura, modelo de datos, "
@@ -171,7 +171,7 @@ constexpr std::array<Layered, 55> words{{
      "email de, email para, borrador de correo, plantilla de correo, respuesta al cliente, "
      "carta de renuncia, carta de agradecimiento, mensaje para, mensaje de bienvenida, "
      "carta de reclamación, correo de agradecimiento, carta a, carta de disculpa, correo de disculpa, "
-     "borrador de email",
+     "borrador de email, correos",
      "carta, cartas, correo, correos"},
     {DocumentKind::faq,
      "preguntas frecuentes, pregunta frecuente, preguntas y respuestas, preguntas más frecuentes, "
@@ -179,15 +179,15 @@ constexpr std::array<Layered, 55> words{{
      ""},
     {DocumentKind::blogPost,
      "entrada de blog, entrada del blog, artículo, artículos, publicación de blog, post de blog, "
-     "post del blog, borrador de artículo, reportaje, crónica",
+     "post del blog, borrador de artículo, crónica",
      ""},
     {DocumentKind::script,
-     "guion, guión, libreto, discurso, subtítulos, transcripción, escaleta, monólogo, diálogo, "
-     "obra de teatro, locución, pregón",
+     "guion, guión, discurso, subtítulos, transcripción, escaleta, monólogo, diálogo, obra de teatro, "
+     "locución, pregón",
      "diálogo"},
     {DocumentKind::essay,
-     "ensayo, artículo de opinión, columna de opinión, reseña, reseñas, crítica, críticas, "
-     "comentario de texto, análisis literario, redacción, reflexión",
+     "ensayo, artículo de opinión, columna de opinión, reseña, reseñas, crítica, comentario de texto, "
+     "análisis literario, redacción, reflexión",
      ""},
     {DocumentKind::story,
      "cuento, relato, novela, microrrelato, poema, poesía, fábula, historia corta, "
@@ -209,8 +209,8 @@ constexpr std::array<Layered, 55> words{{
     {DocumentKind::studyNotes,
      "apuntes, notas de estudio, resumen del tema, resumen para el examen, esquema del tema, "
      "tarjetas de estudio, mapa conceptual, mapa mental, repaso, guía de estudio, vocabulario, "
-     "resumen tema, esquema de estudio, ficha de repaso, esquema, chuleta, fichas de repaso, "
-     "tarjetas de memoria, esquemas, resumen para estudiar",
+     "resumen tema, ficha de repaso, esquema, chuleta, fichas de repaso, tarjetas de memoria, "
+     "esquemas, resumen para estudiar",
      ""},
     {DocumentKind::readingNotes,
      "notas de lectura, apuntes de lectura, ficha de lectura, fichas de lectura, resumen del libro, "
@@ -218,10 +218,9 @@ constexpr std::array<Layered, 55> words{{
      "reporte de lectura, informe de lectura, control de lectura",
      ""},
     {DocumentKind::exercises,
-     "ejercicios, ejercicio, problemas de matemáticas, problemas de física, hoja de ejercicios, "
-     "cuaderno de ejercicios, guía de ejercicios, lista de ejercicios, tarea de matemáticas, deberes, "
-     "hoja de trabajo, banco de preguntas, trabajo práctico, hoja de problemas, tarea, problemas, "
-     "dictado",
+     "ejercicios, ejercicio, problemas de matemáticas, hoja de ejercicios, cuaderno de ejercicios, "
+     "guía de ejercicios, lista de ejercicios, tarea de matemáticas, deberes, hoja de trabajo, "
+     "banco de preguntas, trabajo práctico, hoja de problemas, tarea, problemas, dictado",
      ""},
     {DocumentKind::solutions,
      "solucionario, solucionarios, ejercicios resueltos, ejercicio resuelto, problemas resueltos, "
@@ -232,7 +231,7 @@ constexpr std::array<Layered, 55> words{{
      "examen, parcial, cuestionario, cuestionarios, control de matemáticas, prueba de nivel, "
      "prueba diagnóstica, prueba final, evaluación final, evaluación parcial, evaluación diagnóstica, "
      "simulacro de examen, modelo de examen, preguntas de examen, preguntas tipo test, "
-     "autoevaluación, prueba de matemáticas, prueba de evaluación",
+     "autoevaluación, prueba de matemáticas, prueba de evaluación, exámenes",
      "prueba"},
     {DocumentKind::errorNotes,
      "cuaderno de errores, libreta de errores, diario de errores, notas de errores, mis errores, "
@@ -253,7 +252,8 @@ constexpr std::array<Layered, 55> words{{
      ""},
     {DocumentKind::travelPlan,
      "plan de viaje, plan de vacaciones, itinerario, ruta de viaje, guía de viaje, programa de viaje, "
-     "programa del viaje, planificación del viaje, lista de equipaje, ruta por, viaje a, excursión",
+     "programa del viaje, planificación del viaje, lista de equipaje, ruta por, viaje a, excursión, "
+     "viajes",
      "viaje, viajes"},
     {DocumentKind::recipe,
      "receta, recetas, recetario, libro de recetas, libro de cocina, menú semanal, plan de comidas, "
