@@ -82,7 +82,7 @@ constexpr auto rows = std::to_array<Base>({
     {.kind = designDoc,
      .names = "design doc, design document, architecture, system design, technical design, software design, "
               "database design, api design, adr, rfc, data model, decision record, schema, diagram, erd, "
-              "detailed design, flowchart, design decision",
+              "detailed design, flowchart, design decision, high level design",
      .cues = "architecture, microservice, database, infrastructure, backend",
      .weak = "diagram, decision, model",
      .markers = "context, decision, consequences, alternatives considered, trade off, alternative"},

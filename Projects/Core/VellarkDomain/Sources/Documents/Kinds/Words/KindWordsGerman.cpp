@@ -23,7 +23,7 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::plan,
      .nouns = "plan, zeitplan, terminplan, projektplan, maßnahmenplan, wochenplan, dienstplan, planung, "
-              "strategie, roadmap, schichtplan, migrationsplan, roadmaps, okr",
+              "strategie, roadmap, schichtplan, migrationsplan, roadmaps, okr, planning",
      .weak = ""},
     {.kind = DocumentKind::userStories,
      .nouns = "user story, user stories, nutzergeschichte, anwendungsfall, anwendungsfälle, "
@@ -146,7 +146,7 @@ constexpr Layered words[] = {
               "rundmail, willkommensmail, mail an, anfrage, antwortmail, e-mail-entwurf, anschreiben",
      .weak = "mail, mails, e-mail"},
     {.kind = DocumentKind::faq,
-     .nouns = "häufige fragen, häufig gestellte fragen, faq, fragen und antworten, faqs, q a",
+     .nouns = "häufige fragen, häufig gestellte fragen, faq, fragen und antworten, q a",
      .weak = ""},
     {.kind = DocumentKind::blogPost,
      .nouns = "blogbeitrag, blogpost, gastbeitrag, artikel, erfahrungsbericht, reisebericht, blog post",

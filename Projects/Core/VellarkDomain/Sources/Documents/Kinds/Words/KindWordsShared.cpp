@@ -29,7 +29,8 @@ constexpr auto rows = std::to_array<Shared>({
               "project summary, change summary, completion summary, test summary, 개선 결과, 구현 결과, "
               "작업 결과, 실행 결과, 처리 결과, 검증 결과, 측정 결과, 구현 요약, 작업 요약, 변경 요약, "
               "진행 요약, 구현 정리, 실험 결과, 実装まとめ, 実装結果, 作業報告, 対応結果, 検証結果, 测试结果, "
-              "測試結果, 实现总结, 实施总结, 调查结果, 验证结果, 完成总结, 修复总结, 重构总结, 优化总结",
+              "測試結果, 实现总结, 实施总结, 调查结果, 验证结果, 完成总结, 修复总结, 重构总结, 优化总结, "
+              "trend, trends, 추이, 動向, 趋势, 趨勢, 推移, 사용성 테스트 결과",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<report, codeReview, essay>,
@@ -46,7 +47,7 @@ constexpr auto rows = std::to_array<Shared>({
      .names = "스토리, 시나리오, story, stories, ストーリー, シナリオ, 시놉시스, 줄거리, 세계관, 캐릭터 설정, "
               "synopsis, worldbuilding, character profile, あらすじ, プロット, 世界観, 剧情, 世界观, 人物小传, "
               "콩트, 팬픽, 우화, 동시, plot outline, character sheet, haiku, 小说大纲, 人物设定, 寓言, "
-              "剧情大纲, 同人文, 登場人物表, 俳句, 二次創作, 昔話",
+              "剧情大纲, 同人文, 登場人物表, 俳句, 二次創作, 昔話, 웹소설, 장편 소설, 판타지 소설",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<exercises, quiz, bugReport>,
@@ -57,7 +58,8 @@ constexpr auto rows = std::to_array<Shared>({
               "練習 プリント, 习题集, 習題集, 워크시트, 예상 문제, 문제은행, practice sheet, 应用题, 應用題, "
               "演習, 計算 プリント, 例題, 演習 課題, 宿題 プリント, 口算题卡, 口算题",
      .generics = "",
-     .cues = ""},
+     .cues = "practice, mock, final, placement, entrance, driving, spelling, semester, certification, "
+             "licence, license"},
     {.kinds = anyOf<learning, lectureNotes>,
      .names = "강의 자료, 강좌, 온라인 강의, 교육 계획서, 학습 계획서, learning path, training plan, "
               "수업 자료, 강의 슬라이드, 유인물, lecture slide, lecture material, class material, handout, "
@@ -92,7 +94,8 @@ constexpr auto rows = std::to_array<Shared>({
               "工程表, 근무표, 스케줄표, 액션 플랜, 마스터 플랜, 세부 추진 계획, shift schedule, 推进表, "
               "值班表, 时间安排, 日历, 排班表, 应急预案, 年間予定, シフト表, アクション プラン, 時間割, "
               "当番表, マイルストーン, 편성표, task breakdown, 작업 분해, 작업 목록, 작업 분류, タスク 分解, "
-              "任务分解, 任务拆解",
+              "任务分解, 任务拆解, run sheet, call sheet, run of show, 진행표, 진도표, 분장표, 업무 분장표, "
+              "당번표",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<finance, report>,
@@ -108,7 +111,7 @@ constexpr auto rows = std::to_array<Shared>({
               "bank statement, billing summary, pay stub, financial projection, credit note, 工资条, 收支明细, "
               "估价单, 成本核算表, 付款申请单, 采购订单, 流水账, 记账本, 予算書, 収支表, 発注書, 給与明細, "
               "納品書, 売上 予測, 振込 依頼書, 会計 報告, 収支 計画, 経費 精算, 決算 報告, 账本, 家庭账本, "
-              "帳本, p l statement, 收支明細, 収支 報告",
+              "帳本, p l statement, 收支明細, 収支 報告, profit and loss statement",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<businessPlan, presentation, sales, email>,
@@ -121,7 +124,8 @@ constexpr auto rows = std::to_array<Shared>({
              "invitation, delay, delivery, late, demo, meeting request, introduction, cancellation, refund, "
              "complaint, feedback request, 거래처, 협력사, 파트너, 후보자, 납기, 지연, 회신, 안내, 초대, "
              "취소, 환불, 독촉, 확인, 일정 변경, 取引先, お客様, お断り, 客戶, 供应商, 供應商, 回覆, 感谢, "
-             "感謝, 道歉"},
+             "感謝, 道歉, lightning, tech, meetup, inquiry, resignation, rejection, reference, request, "
+             "payment, shipping, appointment, 의뢰, 추천"},
     {.kinds = anyOf<studyNotes, quiz, learning>,
      .names = "공부, 복습, 예습, 시험 요약, 중간고사 요약, 기말고사 요약, 시험 노트, 勉強, 復習, 复习, 複習, "
               "플래시카드, 암기 카드, flashcard, フラッシュカード, 闪卡, 단어장, 시험 대비, vocabulary list, "
@@ -135,11 +139,12 @@ constexpr auto rows = std::to_array<Shared>({
               "用語集, マインド マップ, テスト 対策",
      .generics = "",
      .cues = "시험, 중간고사, 기말고사, 중간, 기말, 단원, 수학, 영어, 국어, 과학, 물리, 화학, 생물, 지구과학, "
-             "한국사, 세계사, 역사, 사회, 경제학, 심리학, 통계학, 미적분, 선형대수, 문법, 영문법, 단어, 어휘, 한자, "
-             "토익, 수능, 내신, 자격증, 챕터, chapter, unit, math, algebra, calculus, geometry, physics, chemistry, "
-             "biology, history, geography, economics, psychology, grammar, vocabulary, anatomy, statistics, lesson, "
-             "spanish, english, french, science, 試験, 期末, 期中, 中間, 数学, 數學, 英語, 英语, 物理, 化学, 化學, "
-             "生物, 歴史, 世界史, 日本史, 历史, 歷史, 考试, 考試, 単元, 单元, 文法, 语法, 語法, 単語, 单词"},
+             "한국사, 세계사, 역사, 사회, 경제학, 심리학, 통계학, 미적분, 선형대수, 문법, 영문법, 단어, 어휘, "
+             "한자, 토익, 수능, 내신, 자격증, 챕터, chapter, unit, math, algebra, calculus, geometry, "
+             "physics, chemistry, biology, history, geography, economics, psychology, grammar, vocabulary, "
+             "anatomy, statistics, lesson, spanish, english, french, science, 試験, 期末, 期中, 中間, 数学, "
+             "數學, 英語, 英语, 物理, 化学, 化學, 生物, 歴史, 世界史, 日本史, 历史, 歷史, 考试, 考試, 単元, "
+             "单元, 文法, 语法, 語法, 単語, 单词, 암기"},
     {.kinds = anyOf<studyNotes, guide>,
      .names = "",
      .generics = "",
@@ -153,7 +158,7 @@ constexpr auto rows = std::to_array<Shared>({
               "覚え書き, 备忘, 備忘錄, アイデア, 伝言メモ, idea, 아이디어, 아이디어 노트, 便签, 便簽, 備忘録, "
               "낙서, 끄적임, scratchpad, jottings, sticky note, note to self, 想法, 頭腦風暴, 随记, ネタ帳, "
               "ひらめき, 随手笔记, 隨手筆記, 隨筆記, handoff note, handover note, session note, 세션 노트, "
-              "작업 메모, 作業メモ, 工作笔记",
+              "작업 메모, 作業メモ, 工作笔记, scratch note, rough note, loose note, 잡생각",
      .generics = "정리, 정리본, 요약, 요약본, 요약문, 요약 정리, 초고, 초벌, 의견, 노트, 기록, 기록지, 기록물, "
                  "결과, 내용, summary, summaries, notes, note, recap, takeaways, takeaway, records, record, "
                  "findings, variants, january, february, march, april, may, june, july, august, september, "
@@ -195,21 +200,24 @@ constexpr auto rows = std::to_array<Shared>({
                  "総務課, 営業課, 총무팀, 영업팀, 개발팀, 인사팀, 마케팅팀, 재무팀, 기획팀, 各位, 一式, 付き, "
                  "字幕つき, 改定版, 改定, 説明つき, 今週分, 来週分, 今月分, 夏休み, 冬休み, 寒假, 暑假, 学期末, "
                  "初中, 高中, 小学, 一年级, 二年级, 三年级, 四年级, 五年级, 六年级, 年级, 年級, 年生, 小学生, "
-                 "中学生, 高校生, 사항, 안건별, 모음집",
+                 "中学生, 高校生, 사항, 안건별, 모음집, collection, compilation",
      .cues = "analyst, teacher, nurse, accountant, marketer, consultant, intern, graduate, new grad, 개발자, "
              "디자이너, 매니저, 마케터, 엔지니어, 면접용, エンジニア, デザイナー"},
     {.kinds = anyOf<journal, changelog>,
      .names = "일지, 작업 일지, 개발 일지, 운동 일지, 실험 일지, 연구 일지, 작업 로그, work log, dev log, "
-              "devlog, logbook, 日誌, 日志, 운동 기록, 하루 기록, 工作日志, 手帐, 日録, daily log",
+              "devlog, logbook, 日誌, 日志, 운동 기록, 하루 기록, 工作日志, 手帐, 日録, daily log, "
+              "training log, workout log, food log, sleep log, travel log, exercise log, running log, mood log",
      .generics = "로그, logs, log, ログ",
      .cues = ""},
     {.kinds = anyOf<meetingNotes, retrospective>,
      .names = "협의록, 스크럼 기록, 회의 결과, discussion note, weekly meeting, meeting outcome, 打合せ 記録, "
-              "座谈会记录, 会议决议, 会议备忘, 晨会记录, 周会纪要, 面談 記録, 会議 次第, 定例 メモ, 面談 メモ",
+              "座谈会记录, 会议决议, 会议备忘, 晨会记录, 周会纪要, 面談 記録, 会議 次第, 定例 メモ, 面談 メモ, "
+              "상담 기록, 상담 일지, 면담 기록",
      .generics = "",
-     .cues = "워크숍, 워크샵, 원온원, 데일리, 싱크, 타운홀, 정례 회의, 팀 미팅, 팀 회의, 임원 회의, 전체 회의, "
-             "정기 회의, 이사회, 면접, workshop, town hall, all hands, check in, offsite, huddle, catch up, debrief, "
-             "ワークショップ, 朝会, 定例, 研讨会, 研討會, 例会, 周会"},
+     .cues = "워크숍, 워크샵, 원온원, 데일리, 싱크, 타운홀, 정례 회의, 팀 미팅, 팀 회의, 임원 회의, "
+             "전체 회의, 정기 회의, 이사회, 면접, workshop, town hall, all hands, check in, offsite, huddle, "
+             "catch up, debrief, ワークショップ, 朝会, 定例, 研讨会, 研討會, 例会, 周会, committee, 협의회, "
+             "위원회, 座談会, 委員会, 座谈会"},
     {.kinds = anyOf<blogPost, socialPost, essay>,
      .names = "포스트, 게시글, 스레드, thread, スレッド, 후기, 체험기, 사용기, 방문기, 기고, post, write up, "
               "writeup, 記事, 文章, 帖子, 体験記, 기사, 아티클, 포스팅, 블로그 포스트, 体験談, 博文, listicle, "
@@ -233,7 +241,8 @@ constexpr auto rows = std::to_array<Shared>({
               "길라잡이, 使用說明, 作业指导书, 常用命令, 最佳实践, 快速入门, 技巧汇总, 注意事项, 注意事項, "
               "業務 フロー, 早わかり, 虎の巻, 引継書, 作業 要領, 引き継ぎ書, 引継ぎ書, 引き継ぎ 資料, "
               "引継ぎ 資料, 트러블슈팅, 환경 설정, 환경 구성, 문제 해결 가이드, トラブル シューティング, "
-              "環境 設定, 故障排查, 问题排查, 環境建置, 环境搭建, 环境配置",
+              "環境 設定, 故障排查, 问题排查, 環境建置, 环境搭建, 环境配置, 처리 절차, 신청 절차, 이용 절차, "
+              "진행 절차, 꿀팁, 꿀팁 모음, 노하우",
      .generics = "문서, 문서화, 서류, 개요, 소개, 입문, 기초, documents, document, documentation, doc, docs, "
                  "overview, introduction, intro, basics, fundamentals, 文書, ドキュメント, 概要, 紹介, 入門, "
                  "基礎, 文档, 文檔, 文件, 概述, 简介, 簡介, 介绍, 介紹, 入门, 基础, 概览, 概覽, 总览, 개괄, "
