@@ -29,8 +29,8 @@ constexpr auto rows = std::to_array<Shared>({
               "project summary, change summary, completion summary, test summary, 개선 결과, 구현 결과, "
               "작업 결과, 실행 결과, 처리 결과, 검증 결과, 측정 결과, 구현 요약, 작업 요약, 변경 요약, "
               "진행 요약, 구현 정리, 실험 결과, 実装まとめ, 実装結果, 作業報告, 対応結果, 検証結果, 测试结果, "
-              "測試結果, 实现总结, 实施总结, 调查结果, 验证结果, 完成总结, 修复总结, 重构总结, 优化总结, "
-              "trend, trends, 추이, 動向, 趋势, 趨勢, 推移, 사용성 테스트 결과",
+              "測試結果, 实现总结, 实施总结, 验证结果, 完成总结, 修复总结, 重构总结, 优化总结, trend, trends, "
+              "추이, 動向, 趋势, 趨勢, 推移, 사용성 테스트 결과, 进展, 项目进展, 進捗, 進展, 감사 결과",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<report, codeReview, essay>,
@@ -56,19 +56,19 @@ constexpr auto rows = std::to_array<Shared>({
               "練習題, 练习题, 练习卷, 練習卷, 真题, 真題, 课后题, 思考题, 题库, 題庫, 章末問題, 练习, 练习册, "
               "習題, 練習冊, 練習, 課題, worksheet, problem set, drill, 연습 문제, 문제지, 예제, "
               "練習 プリント, 习题集, 習題集, 워크시트, 예상 문제, 문제은행, practice sheet, 应用题, 應用題, "
-              "演習, 計算 プリント, 例題, 演習 課題, 宿題 プリント, 口算题卡, 口算题",
+              "演習, 計算 プリント, 例題, 演習 課題, 宿題 プリント, 口算题卡, 口算题, 학습지",
      .generics = "",
      .cues = "practice, mock, final, placement, entrance, driving, spelling, semester, certification, "
              "licence, license"},
     {.kinds = anyOf<learning, lectureNotes>,
      .names = "강의 자료, 강좌, 온라인 강의, 교육 계획서, 학습 계획서, learning path, training plan, "
               "수업 자료, 강의 슬라이드, 유인물, lecture slide, lecture material, class material, handout, "
-              "講義資料, 授業資料, 課件, 课件, 配布資料, 講義, 교재, 교육 자료, 강의안, 학습지, "
-              "course material, training material, 研修 資料, 培训材料, 培训资料, 教材, 学案, 學案, 说课稿, "
-              "教学方案, 教學方案, 课程, 課程, 教學計畫, 授業案, 講座, textbook, workbook, 활동지, "
-              "교육 프로그램, 실러버스, learning plan, teaching note, workshop outline, training manual, "
-              "課程大綱, 学习手册, 讲师手册, 单元设计, 備課筆記, 备课笔记, 培训方案, 教学进度表, "
-              "教育 プログラム, 単元 計画, 研修 プログラム, 授業 プリント",
+              "講義資料, 授業資料, 課件, 课件, 配布資料, 講義, 교재, 교육 자료, 강의안, course material, "
+              "training material, 研修 資料, 培训材料, 培训资料, 教材, 学案, 學案, 说课稿, 教学方案, 教學方案, "
+              "课程, 課程, 教學計畫, 授業案, 講座, textbook, workbook, 활동지, 교육 프로그램, 실러버스, "
+              "learning plan, teaching note, workshop outline, training manual, 課程大綱, 学习手册, 讲师手册, "
+              "单元设计, 備課筆記, 备课笔记, 培训方案, 教学进度表, 教育 プログラム, 単元 計画, "
+              "研修 プログラム, 授業 プリント, 课程安排, 課程安排",
      .generics = "자료, materials, material, resources, resource, 資料, 资料, 素材",
      .cues = "과외, 부트캠프, 워크숍 자료, bootcamp, tutoring, 研修, 培训, 培訓"},
     {.kinds = anyOf<design, designDoc>,
@@ -95,7 +95,7 @@ constexpr auto rows = std::to_array<Shared>({
               "值班表, 时间安排, 日历, 排班表, 应急预案, 年間予定, シフト表, アクション プラン, 時間割, "
               "当番表, マイルストーン, 편성표, task breakdown, 작업 분해, 작업 목록, 작업 분류, タスク 分解, "
               "任务分解, 任务拆解, run sheet, call sheet, run of show, 진행표, 진도표, 분장표, 업무 분장표, "
-              "당번표",
+              "당번표, 值日表, 行事予定, 予定",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<finance, report>,
@@ -111,7 +111,8 @@ constexpr auto rows = std::to_array<Shared>({
               "bank statement, billing summary, pay stub, financial projection, credit note, 工资条, 收支明细, "
               "估价单, 成本核算表, 付款申请单, 采购订单, 流水账, 记账本, 予算書, 収支表, 発注書, 給与明細, "
               "納品書, 売上 予測, 振込 依頼書, 会計 報告, 収支 計画, 経費 精算, 決算 報告, 账本, 家庭账本, "
-              "帳本, p l statement, 收支明細, 収支 報告, profit and loss statement",
+              "帳本, p l statement, 收支明細, 収支 報告, profit and loss statement, 발행 내역, 결제 내역, "
+              "입출금 내역, 사용 내역",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<businessPlan, presentation, sales, email>,
@@ -136,7 +137,7 @@ constexpr auto rows = std::to_array<Shared>({
               "중간고사 요약 정리, 기말고사 요약 정리, 시험 요약 정리, 중간고사 대비, 기말고사 대비, "
               "시험 범위 정리, 암기 노트, 마인드맵, 공식 정리, 용어 정리, 핵심 요약, mind map, concept map, "
               "cheat note, 考试重点, 思维导图, 心智圖, 公式汇总, 自学笔记, 考研笔记, 試験 対策, 公式集, "
-              "用語集, マインド マップ, テスト 対策",
+              "用語集, マインド マップ, テスト 対策, 考前重点, 暗記まとめ, 暗記",
      .generics = "",
      .cues = "시험, 중간고사, 기말고사, 중간, 기말, 단원, 수학, 영어, 국어, 과학, 물리, 화학, 생물, 지구과학, "
              "한국사, 세계사, 역사, 사회, 경제학, 심리학, 통계학, 미적분, 선형대수, 문법, 영문법, 단어, 어휘, "
@@ -144,7 +145,7 @@ constexpr auto rows = std::to_array<Shared>({
              "physics, chemistry, biology, history, geography, economics, psychology, grammar, vocabulary, "
              "anatomy, statistics, lesson, spanish, english, french, science, 試験, 期末, 期中, 中間, 数学, "
              "數學, 英語, 英语, 物理, 化学, 化學, 生物, 歴史, 世界史, 日本史, 历史, 歷史, 考试, 考試, 単元, "
-             "单元, 文法, 语法, 語法, 単語, 单词, 암기"},
+             "单元, 文法, 语法, 語法, 単語, 单词, 암기, 漢字, 計算, 国語, 算数, 理科, 听写, 语文"},
     {.kinds = anyOf<studyNotes, guide>,
      .names = "",
      .generics = "",
@@ -158,7 +159,8 @@ constexpr auto rows = std::to_array<Shared>({
               "覚え書き, 备忘, 備忘錄, アイデア, 伝言メモ, idea, 아이디어, 아이디어 노트, 便签, 便簽, 備忘録, "
               "낙서, 끄적임, scratchpad, jottings, sticky note, note to self, 想法, 頭腦風暴, 随记, ネタ帳, "
               "ひらめき, 随手笔记, 隨手筆記, 隨筆記, handoff note, handover note, session note, 세션 노트, "
-              "작업 메모, 作業メモ, 工作笔记, scratch note, rough note, loose note, 잡생각",
+              "작업 메모, 作業メモ, 工作笔记, scratch note, rough note, loose note, 잡생각, 随想, 雑記, "
+              "电话记录, 電話記録, 電話記錄, 通話記録",
      .generics = "정리, 정리본, 요약, 요약본, 요약문, 요약 정리, 초고, 초벌, 의견, 노트, 기록, 기록지, 기록물, "
                  "결과, 내용, summary, summaries, notes, note, recap, takeaways, takeaway, records, record, "
                  "findings, variants, january, february, march, april, may, june, july, august, september, "
@@ -200,7 +202,8 @@ constexpr auto rows = std::to_array<Shared>({
                  "総務課, 営業課, 총무팀, 영업팀, 개발팀, 인사팀, 마케팅팀, 재무팀, 기획팀, 各位, 一式, 付き, "
                  "字幕つき, 改定版, 改定, 説明つき, 今週分, 来週分, 今月分, 夏休み, 冬休み, 寒假, 暑假, 学期末, "
                  "初中, 高中, 小学, 一年级, 二年级, 三年级, 四年级, 五年级, 六年级, 年级, 年級, 年生, 小学生, "
-                 "中学生, 高校生, 사항, 안건별, 모음집, collection, compilation",
+                 "中学生, 高校生, 사항, 안건별, 모음집, collection, compilation, 안, a안, b안, c안, 개정안, 시행, "
+                 "개편안, 변경안",
      .cues = "analyst, teacher, nurse, accountant, marketer, consultant, intern, graduate, new grad, 개발자, "
              "디자이너, 매니저, 마케터, 엔지니어, 면접용, エンジニア, デザイナー"},
     {.kinds = anyOf<journal, changelog>,
@@ -212,7 +215,7 @@ constexpr auto rows = std::to_array<Shared>({
     {.kinds = anyOf<meetingNotes, retrospective>,
      .names = "협의록, 스크럼 기록, 회의 결과, discussion note, weekly meeting, meeting outcome, 打合せ 記録, "
               "座谈会记录, 会议决议, 会议备忘, 晨会记录, 周会纪要, 面談 記録, 会議 次第, 定例 メモ, 面談 メモ, "
-              "상담 기록, 상담 일지, 면담 기록",
+              "상담 기록, 상담 일지, 면담 기록, 面谈记录, 會談記錄, 会谈记录, 朝礼 メモ",
      .generics = "",
      .cues = "워크숍, 워크샵, 원온원, 데일리, 싱크, 타운홀, 정례 회의, 팀 미팅, 팀 회의, 임원 회의, "
              "전체 회의, 정기 회의, 이사회, 면접, workshop, town hall, all hands, check in, offsite, huddle, "
@@ -221,7 +224,7 @@ constexpr auto rows = std::to_array<Shared>({
     {.kinds = anyOf<blogPost, socialPost, essay>,
      .names = "포스트, 게시글, 스레드, thread, スレッド, 후기, 체험기, 사용기, 방문기, 기고, post, write up, "
               "writeup, 記事, 文章, 帖子, 体験記, 기사, 아티클, 포스팅, 블로그 포스트, 体験談, 博文, listicle, "
-              "리뷰 글, 매거진 글, 经验贴, 社媒帖子",
+              "리뷰 글, 매거진 글, 经验贴, 社媒帖子, 食レポ",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<data, checklist>,
@@ -242,7 +245,7 @@ constexpr auto rows = std::to_array<Shared>({
               "業務 フロー, 早わかり, 虎の巻, 引継書, 作業 要領, 引き継ぎ書, 引継ぎ書, 引き継ぎ 資料, "
               "引継ぎ 資料, 트러블슈팅, 환경 설정, 환경 구성, 문제 해결 가이드, トラブル シューティング, "
               "環境 設定, 故障排查, 问题排查, 環境建置, 环境搭建, 环境配置, 처리 절차, 신청 절차, 이용 절차, "
-              "진행 절차, 꿀팁, 꿀팁 모음, 노하우",
+              "진행 절차, 꿀팁, 꿀팁 모음, 노하우, 申請方法, 利用方法, 申请方法, 使用方法, 操作方法, 登録方法",
      .generics = "문서, 문서화, 서류, 개요, 소개, 입문, 기초, documents, document, documentation, doc, docs, "
                  "overview, introduction, intro, basics, fundamentals, 文書, ドキュメント, 概要, 紹介, 入門, "
                  "基礎, 文档, 文檔, 文件, 概述, 简介, 簡介, 介绍, 介紹, 入门, 基础, 概览, 概覽, 总览, 개괄, "
