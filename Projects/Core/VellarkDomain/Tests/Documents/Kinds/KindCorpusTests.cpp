@@ -21,7 +21,7 @@ std::string joined(const std::vector<std::string>& lines) {
 // without phrases of the opening.
 TEST(KindCorpus, isClassifiedAsPromised) {
     constexpr double mostDecidedWithoutKind = 3;
-    constexpr double fewestDocumentsRight = 80;
+    constexpr double fewestDocumentsRight = 78;
     const std::map<std::string, double> fewest = {{"de", 95}, {"en", 91}, {"es", 96}, {"fr", 93},
                                                   {"ja", 85}, {"ko", 93}, {"mn", 89}, {"ru", 95},
                                                   {"th", 94}, {"vi", 95}, {"zh", 90}};
