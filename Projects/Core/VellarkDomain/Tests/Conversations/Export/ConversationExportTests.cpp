@@ -53,7 +53,11 @@ TEST(ConversationExportTests, everythingInItsForm) {
 }
 
 TEST(ConversationExportTests, aLongConversationEndsWithANote) {
-    const std::vector<Entry> entries(40, {.id = "1", .text = std::string(100'000, 'a')});
+    std::vector<Entry> entries(40);
+    for (Entry& entry : entries) {
+        entry.id = "1";
+        entry.text = std::string(100'000, 'a');
+    }
     const std::string text = exported({.title = "t"}, entries);
     const std::string note = "\n*" + L10n::text("이후 대화는 길어서 생략했어요.") + "*\n";
     EXPECT_TRUE(text.ends_with(note));
