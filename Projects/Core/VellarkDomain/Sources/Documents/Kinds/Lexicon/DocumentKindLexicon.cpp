@@ -72,7 +72,10 @@ struct DocumentKindLexicon::Built {
 
     // The order of what follows fixes the indices of the patterns, by which equal claims are settled later.
     explicit Built(const DocumentKindVocabulary& vocabulary) {
-        indices.reserve(1U << 14);
+        constexpr std::size_t expected = 1U << 14;  // patterns
+        indices.reserve(expected);
+        patterns.reserve(expected);
+        terms.reserve(expected);
         for (const auto& row : vocabulary.shared) {
             addLists(row, row.kinds, {.shared = true});
         }
