@@ -1,3 +1,4 @@
+#include <VellarkDomain/Documents/Kinds/Matcher/BlockMasks.hpp>
 #include <VellarkDomain/Documents/Kinds/Matcher/DocumentKindMatcher.hpp>
 #include <VellarkDomain/Documents/Kinds/Matcher/KoreanParticles.hpp>
 #include <VellarkDomain/Documents/Kinds/Matcher/ScalarClasses.hpp>
@@ -5,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <memory>
 
 // An automaton that follows every pattern through every scalar would mostly find what the boundary rules then refuse.
@@ -16,7 +18,7 @@
 //              (those at the start of one are found in the first trie); and words that begin in a spaced script and
 //              go on in another ("api 문서"), which may begin anywhere, from each scalar that ends one
 //
-// Most walks end within three steps, and none is begun where its first two scalars begin nothing.
+// Most walks end within three steps, and none is begun where the first scalars surely begin nothing.
 
 namespace vellark {
 
@@ -25,17 +27,8 @@ namespace {
 using Entry = MatcherAlphabet::Entry;
 using Hit = DocumentKindMatcher::Hit;
 
-constexpr char32_t noScalar = 0xFFFF'FFFF;
-
 bool flagAt(const std::vector<bool>& flags, std::size_t index) {
     return index < flags.size() && flags[index];
-}
-
-// What begins a walk in `anchored` need not be tested again at its end: a pattern of a spaced script never begins with
-// a Korean syllable, and a Korean one always does.
-bool startsAnchored(Entry before, Entry entry) {
-    return (entry & MatcherAlphabet::hangul) != 0 ? (before & MatcherAlphabet::hangul) == 0
-                                                  : (before & MatcherAlphabet::boundary) != 0;
 }
 
 // By end, then the longest first, then by index.
@@ -58,10 +51,7 @@ void insertInOrder(std::vector<Hit>& hits, Hit hit) {
 }  // namespace
 
 DocumentKindMatcher::DocumentKindMatcher(const Patterns& patterns)
-    : traits_(traits(patterns)),
-      alphabet_(patterns.patterns),
-      pairs_(pairBits / 64),
-      array_(tries(patterns.patterns)) {}
+    : traits_(traits(patterns)), alphabet_(patterns.patterns), array_(tries(patterns.patterns)) {}
 
 std::vector<DocumentKindMatcher::Traits> DocumentKindMatcher::traits(const Patterns& patterns) {
     std::vector<Traits> result(patterns.patterns.size());
@@ -96,16 +86,20 @@ DoubleArray DocumentKindMatcher::tries(std::span<const std::u32string> patterns)
         // A value above U+10FFFF has no code; no text that is read holds one.
         if (std::ranges::find(all.subspan(start), 0U) != all.end()) return;
         keys[trie].push_back({all.subspan(start), pattern});
+        filter_.add(trie, all.subspan(start));
+    };
+    const auto noteStart = [&](char32_t scalar, std::size_t length, MatcherAlphabet::Entry flag) {
+        alphabet_.set(scalar, length == 1 ? flag | MatcherAlphabet::isPattern : flag);
     };
     const auto addForward = [&](Trie trie, std::uint32_t index, MatcherAlphabet::Entry flag) {
         const std::u32string& pattern = patterns[index];
         add(trie, index, pattern.begin(), pattern.end());
-        noteStart(trie, pattern.front(), pattern.size() > 1 ? pattern[1] : noScalar, flag);
+        noteStart(pattern.front(), pattern.size(), flag);
     };
     const auto addBackward = [&](std::uint32_t index, MatcherAlphabet::Entry flag) {
         const std::u32string& pattern = patterns[index];
         add(reversed, index, pattern.rbegin(), pattern.rend());
-        noteStart(reversed, pattern.back(), pattern.size() > 1 ? pattern[pattern.size() - 2] : noScalar, flag);
+        noteStart(pattern.back(), pattern.size(), flag);
     };
     for (std::uint32_t index = 0; index < patterns.size(); ++index) {
         if (patterns[index].empty()) continue;
@@ -144,62 +138,77 @@ DoubleArray DocumentKindMatcher::tries(std::span<const std::u32string> patterns)
     return DoubleArray(sorted);
 }
 
-// Notes the first two scalars of a trie's key. A key of one scalar begins with any pair.
-void DocumentKindMatcher::noteStart(Trie trie, char32_t first, char32_t second, MatcherAlphabet::Entry flag) {
-    alphabet_.set(first, second == noScalar ? flag | MatcherAlphabet::isPattern : flag);
-    if (second == noScalar) return;
-    const std::uint32_t hash = pairHash(trie, alphabet_[first], alphabet_[second]);
-    pairs_[hash / 64] |= std::uint64_t{1} << (hash % 64);
-}
-
 /// One walk over a text.
 class DocumentKindMatcher::Scan {
 public:
     Scan(const DocumentKindMatcher& matcher, std::u32string_view text, std::vector<Hit>& hits)
         : matcher_(matcher), array_(matcher.array_), text_(text), hits_(hits) {
+        const std::size_t size = margin + text.size() + BlockMasks::size + 1;
         Entry* entries = few_.data();
-        if (text.size() >= few_.size()) {
-            many_ = std::make_unique_for_overwrite<Entry[]>(text.size() + 1);
+        if (size > few_.size()) {
+            many_ = std::make_unique_for_overwrite<Entry[]>(size);
             entries = many_.get();
         }
+        entries = std::fill_n(entries, margin, edge);
         for (std::size_t index = 0; index < text.size(); ++index) {
             entries[index] = matcher.alphabet_[text[index]];
         }
-        entries[text.size()] = edge;
+        std::fill_n(entries + text.size(), BlockMasks::size + 1, edge);
         entries_ = entries;
     }
 
+    // Where walks begin is found out for a block at a time, without a branch for any scalar; the walks come after.
     void run() {
-        constexpr Entry startsAnywhere = MatcherAlphabet::beginsFloating | MatcherAlphabet::endsMixed;
-        Entry before = edge;
-        Entry entry = entries_[0];
-        for (std::size_t position = 0; position < text_.size(); ++position) {
-            const Entry after = entries_[position + 1];
-            // Inside a word of a spaced script nothing begins and nothing ends.
-            if (((before | after) & MatcherAlphabet::boundary) != 0 || (entry & startsAnywhere) != 0 ||
-                (entry & MatcherAlphabet::hangul) != 0) {
-                visit(position, before, entry, after);
-            }
-            before = entry;
-            entry = after;
+        for (std::size_t block = 0; block < text_.size(); block += BlockMasks::size) {
+            const Starts starts = startsOf(BlockMasks(entries_ + block));
+            Places places;
+            const auto anchoredEnd = choose<1>(anchored, starts.anchored, block, places.begin());
+            const auto floatingEnd = choose<1>(floating, starts.floating, block, anchoredEnd);
+            const auto reversedEnd = choose<-1>(reversed, starts.reversed, block, floatingEnd);
+            std::for_each(places.begin(), anchoredEnd, [this](std::size_t place) { walk(anchored, place); });
+            std::for_each(anchoredEnd, floatingEnd, [this](std::size_t place) { walk(floating, place); });
+            std::for_each(floatingEnd, reversedEnd, [this](std::size_t place) { walkBack(place + 1); });
         }
     }
 
 private:
-    static constexpr Entry edge = MatcherAlphabet::boundary;  // what stands before and behind a text
+    using Mask = BlockMasks::Mask;
+    using Places = std::array<std::size_t, trieCount * BlockMasks::size + 1>;  // one is written beyond the last
 
-    void visit(std::size_t position, Entry before, Entry entry, Entry after) {
-        if ((entry & MatcherAlphabet::beginsAnchored) != 0 && startsAnchored(before, entry) &&
-            matcher_.mayStart(anchored, entry, after)) {
-            walk(anchored, position);
+    static constexpr Entry edge = MatcherAlphabet::boundary;  // what stands before and behind a text
+    static constexpr std::size_t margin = PrefixFilter::depth - 1;
+    static_assert(margin <= BlockMasks::size);
+
+    // Where the rules let a walk of each trie begin.
+    struct Starts {
+        Mask anchored, floating, reversed;
+    };
+
+    // What begins a walk in `anchored` need not be tested again at its end: a pattern of a spaced script never begins
+    // with a Korean syllable, and a Korean one always does.
+    static Starts startsOf(const BlockMasks& masks) {
+        using enum MatcherAlphabet::Flag;
+        const Mask korean = masks.having(hangul);
+        const Mask boundaries = masks.having(boundary);
+        const Mask wordStarts =
+            (korean & ~masks.behind(korean, hangul)) | (~korean & masks.behind(boundaries, boundary));
+        return {
+            .anchored = masks.having(beginsAnchored) & wordStarts,
+            .floating = masks.having(beginsFloating),
+            .reversed = masks.having(endsMixed) | (masks.having(endsCompound) & masks.before(boundaries, boundary))};
+    }
+
+    // Appends the places of a mask's bits with which a key of the trie may begin, read forward (1) or backward (-1).
+    template <std::ptrdiff_t direction>
+    Places::iterator choose(Trie trie, Mask mask, std::size_t block, Places::iterator end) const {
+        for (; mask != 0; mask &= mask - 1) {
+            *end = block + static_cast<std::size_t>(std::countr_zero(mask));
+            const Entry* const at = entries_ + *end;
+            const auto codeAt = [at](std::ptrdiff_t index) { return MatcherAlphabet::code(at[index * direction]); };
+            const bool isPattern = (*at & MatcherAlphabet::isPattern) != 0;
+            end += isPattern | matcher_.filter_.mayBegin(trie, codeAt(0), codeAt(1), codeAt(2), codeAt(3));
         }
-        if ((entry & MatcherAlphabet::beginsFloating) != 0 && matcher_.mayStart(floating, entry, after)) {
-            walk(floating, position);
-        }
-        const bool endsWord = (entry & MatcherAlphabet::endsCompound) != 0 && (after & MatcherAlphabet::boundary) != 0;
-        if ((endsWord || (entry & MatcherAlphabet::endsMixed) != 0) && matcher_.mayStart(reversed, entry, before)) {
-            walkBack(position + 1);
-        }
+        return end;
     }
 
     void walk(Trie trie, std::size_t start) {

@@ -2,6 +2,7 @@
 
 #include <VellarkDomain/Documents/Kinds/Matcher/DoubleArray.hpp>
 #include <VellarkDomain/Documents/Kinds/Matcher/MatcherAlphabet.hpp>
+#include <VellarkDomain/Documents/Kinds/Matcher/PrefixFilter.hpp>
 
 #include <cstdint>
 #include <map>
@@ -81,30 +82,16 @@ private:
     };
 
     static constexpr std::uint32_t noPattern = 0xFFFF'FFFF;
-    static constexpr std::uint32_t pairBits = 1U << 16;
 
     enum Trie : std::size_t { anchored, floating, reversed, trieCount };
 
     [[nodiscard]] static std::vector<Traits> traits(const Patterns& patterns);
     [[nodiscard]] DoubleArray tries(std::span<const std::u32string> patterns);
-    void noteStart(Trie trie, char32_t first, char32_t second, MatcherAlphabet::Entry flag);
-
-    [[nodiscard]] static std::uint32_t pairHash(Trie trie, MatcherAlphabet::Entry first,
-                                                MatcherAlphabet::Entry second) {
-        const auto salt = static_cast<std::uint32_t>(trie) << 14;
-        return (salt + MatcherAlphabet::code(first) * 0x9E37U + MatcherAlphabet::code(second)) & (pairBits - 1);
-    }
-
-    /// False where no walk of the trie passes its first two scalars.
-    [[nodiscard]] bool mayStart(Trie trie, MatcherAlphabet::Entry first, MatcherAlphabet::Entry second) const {
-        const std::uint32_t hash = pairHash(trie, first, second);
-        return ((pairs_[hash / 64] >> (hash % 64)) & 1) != 0 || (first & MatcherAlphabet::isPattern) != 0;
-    }
 
     std::vector<Traits> traits_;
     std::map<std::uint32_t, std::uint32_t> nextEqual_;  // of patterns that have an equal
     MatcherAlphabet alphabet_;
-    std::vector<std::uint64_t> pairs_;  // hashed pairs of codes with which walks begin
+    PrefixFilter filter_;
     DoubleArray array_;
 };
 
