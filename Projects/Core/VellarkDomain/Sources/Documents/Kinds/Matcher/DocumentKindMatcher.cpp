@@ -10,15 +10,16 @@
 #include <memory>
 
 // An automaton that follows every pattern through every scalar would mostly find what the boundary rules then refuse.
-// The rules themselves say where a match can stand, so the patterns are in three tries, and a walk begins only there:
+// The rules themselves say where a match can stand, so the patterns are in three sets, and are looked for only there:
 //
 //   anchored   words of spaced scripts, from each start of a word; Korean words, from each start of a Korean run
 //   floating   words of the other scripts, and Korean suffix nouns, from each scalar
 //   reversed   backwards: words that may end a longer word, from each end of a word, for matches inside words only
-//              (those at the start of one are found in the first trie); and words that begin in a spaced script and
+//              (those at the start of one are found in the first set); and words that begin in a spaced script and
 //              go on in another ("api 문서"), which may begin anywhere, from each scalar that ends one
 //
-// Most walks end within three steps, and none is begun where the first scalars surely begin nothing.
+// What makes this dear is guessing wrong at branches, so the places are found for a block of scalars at a time, without
+// a branch for any of them, and matched afterwards.
 
 namespace vellark {
 
@@ -38,7 +39,7 @@ bool precedes(const Hit& left, const Hit& right) {
     return left.pattern < right.pattern;
 }
 
-// Walks find matches nearly in order: a match is overtaken only by those that begin before its end.
+// Matches are found nearly in order: a match is overtaken only by those that begin before its end.
 void insertInOrder(std::vector<Hit>& hits, Hit hit) {
     auto place = hits.size();
     hits.push_back(hit);
@@ -51,7 +52,7 @@ void insertInOrder(std::vector<Hit>& hits, Hit hit) {
 }  // namespace
 
 DocumentKindMatcher::DocumentKindMatcher(const Patterns& patterns)
-    : traits_(traits(patterns)), alphabet_(patterns.patterns), array_(tries(patterns.patterns)) {}
+    : traits_(traits(patterns)), alphabet_(patterns.patterns), index_(index(patterns.patterns)) {}
 
 std::vector<DocumentKindMatcher::Traits> DocumentKindMatcher::traits(const Patterns& patterns) {
     std::vector<Traits> result(patterns.patterns.size());
@@ -68,32 +69,30 @@ std::vector<DocumentKindMatcher::Traits> DocumentKindMatcher::traits(const Patte
     return result;
 }
 
-// Makes the tries, and notes in the alphabet which scalars begin their walks.
-DoubleArray DocumentKindMatcher::tries(std::span<const std::u32string> patterns) {
+// Makes the index, and notes in the alphabet which scalars begin its keys.
+PrefixIndex DocumentKindMatcher::index(std::span<const std::u32string> patterns) {
     std::size_t size = 0;
     for (const std::u32string& pattern : patterns) {
         size += 2 * pattern.size();
     }
-    std::vector<DoubleArray::Code> codes;
+    std::vector<PrefixIndex::Code> codes;
     codes.reserve(size);  // keys hold views of it
-    std::array<std::vector<DoubleArray::Key>, trieCount> keys;
-    const auto add = [&](Trie trie, std::uint32_t pattern, auto first, auto last) {
+    std::vector<PrefixIndex::Key> keys;
+    const auto add = [&](Set set, std::uint32_t pattern, auto first, auto last) {
         const std::size_t start = codes.size();
         for (; first != last; ++first) {
             codes.push_back(MatcherAlphabet::code(alphabet_[*first]));
         }
-        const std::span<const DoubleArray::Code> all(codes);
+        const auto added = std::span<const PrefixIndex::Code>(codes).subspan(start);
         // A value above U+10FFFF has no code; no text that is read holds one.
-        if (std::ranges::find(all.subspan(start), 0U) != all.end()) return;
-        keys[trie].push_back({all.subspan(start), pattern});
-        filter_.add(trie, all.subspan(start));
+        if (std::ranges::find(added, 0U) == added.end()) keys.push_back({set, added, pattern});
     };
     const auto noteStart = [&](char32_t scalar, std::size_t length, MatcherAlphabet::Entry flag) {
         alphabet_.set(scalar, length == 1 ? flag | MatcherAlphabet::isPattern : flag);
     };
-    const auto addForward = [&](Trie trie, std::uint32_t index, MatcherAlphabet::Entry flag) {
+    const auto addForward = [&](Set set, std::uint32_t index, MatcherAlphabet::Entry flag) {
         const std::u32string& pattern = patterns[index];
-        add(trie, index, pattern.begin(), pattern.end());
+        add(set, index, pattern.begin(), pattern.end());
         noteStart(pattern.front(), pattern.size(), flag);
     };
     const auto addBackward = [&](std::uint32_t index, MatcherAlphabet::Entry flag) {
@@ -116,33 +115,31 @@ DoubleArray DocumentKindMatcher::tries(std::span<const std::u32string> patterns)
         }
     }
 
-    std::array<std::span<const DoubleArray::Key>, trieCount> sorted;
-    for (std::size_t trie = 0; trie < trieCount; ++trie) {
-        std::ranges::stable_sort(keys[trie], std::ranges::lexicographical_compare, &DoubleArray::Key::codes);
-        std::vector<DoubleArray::Key> unique;
-        unique.reserve(keys[trie].size());
-        std::uint32_t last = noPattern;
-        for (const DoubleArray::Key& key : keys[trie]) {
-            if (!unique.empty() && std::ranges::equal(unique.back().codes, key.codes)) {
-                // The first trie that holds a pattern holds all that equal it.
-                traits_[last].hasEqual = true;
-                nextEqual_.try_emplace(last, key.value);
-            } else {
-                unique.push_back(key);
-            }
-            last = key.value;
+    std::ranges::stable_sort(keys, [](const PrefixIndex::Key& left, const PrefixIndex::Key& right) {
+        return left.set != right.set ? left.set < right.set
+                                     : std::ranges::lexicographical_compare(left.codes, right.codes);
+    });
+    std::vector<PrefixIndex::Key> unique;
+    unique.reserve(keys.size());
+    std::uint32_t last = noPattern;
+    for (const PrefixIndex::Key& key : keys) {
+        if (!unique.empty() && unique.back().set == key.set && std::ranges::equal(unique.back().codes, key.codes)) {
+            // The first set that holds a pattern holds all that equal it.
+            traits_[last].hasEqual = true;
+            nextEqual_.try_emplace(last, key.value);
+        } else {
+            unique.push_back(key);
         }
-        keys[trie] = std::move(unique);
-        sorted[trie] = keys[trie];
+        last = key.value;
     }
-    return DoubleArray(sorted);
+    return PrefixIndex(unique);
 }
 
 /// One walk over a text.
 class DocumentKindMatcher::Scan {
 public:
     Scan(const DocumentKindMatcher& matcher, std::u32string_view text, std::vector<Hit>& hits)
-        : matcher_(matcher), array_(matcher.array_), text_(text), hits_(hits) {
+        : matcher_(matcher), index_(matcher.index_), rests_(matcher.index_.rests()), text_(text), hits_(hits) {
         const std::size_t size = margin + text.size() + BlockMasks::size + 1;
         Entry* entries = few_.data();
         if (size > few_.size()) {
@@ -157,34 +154,39 @@ public:
         entries_ = entries;
     }
 
-    // Where walks begin is found out for a block at a time, without a branch for any scalar; the walks come after.
     void run() {
         for (std::size_t block = 0; block < text_.size(); block += BlockMasks::size) {
             const Starts starts = startsOf(BlockMasks(entries_ + block));
-            Places places;
-            const auto anchoredEnd = choose<1>(anchored, starts.anchored, block, places.begin());
-            const auto floatingEnd = choose<1>(floating, starts.floating, block, anchoredEnd);
-            const auto reversedEnd = choose<-1>(reversed, starts.reversed, block, floatingEnd);
-            std::for_each(places.begin(), anchoredEnd, [this](std::size_t place) { walk(anchored, place); });
-            std::for_each(anchoredEnd, floatingEnd, [this](std::size_t place) { walk(floating, place); });
-            std::for_each(floatingEnd, reversedEnd, [this](std::size_t place) { walkBack(place + 1); });
+            Beginnings beginnings;
+            auto end = beginnings.begin();
+            end = choose<1>(anchored, starts.anchored, block, end);
+            end = choose<1>(floating, starts.floating, block, end);
+            const auto backward = end;
+            end = choose<-1>(reversed, starts.reversed, block, end);
+            std::for_each(beginnings.begin(), backward, [this](const Beginning& one) { match<1>(one); });
+            std::for_each(backward, end, [this](const Beginning& one) { match<-1>(one); });
         }
     }
 
 private:
     using Mask = BlockMasks::Mask;
-    using Places = std::array<std::size_t, trieCount * BlockMasks::size + 1>;  // one is written beyond the last
+
+    struct Beginning {
+        PrefixIndex::Prefix prefix;
+        std::size_t place;  // of its first scalar, read backward of its last
+    };
+    using Beginnings = std::array<Beginning, setCount * BlockMasks::size * PrefixIndex::depth + 1>;
 
     static constexpr Entry edge = MatcherAlphabet::boundary;  // what stands before and behind a text
-    static constexpr std::size_t margin = PrefixFilter::depth - 1;
+    static constexpr std::size_t margin = PrefixIndex::depth - 1;
     static_assert(margin <= BlockMasks::size);
 
-    // Where the rules let a walk of each trie begin.
+    // Where the rules let a pattern of each set begin.
     struct Starts {
         Mask anchored, floating, reversed;
     };
 
-    // What begins a walk in `anchored` need not be tested again at its end: a pattern of a spaced script never begins
+    // What begins in `anchored` need not be tested again at its end: a pattern of a spaced script never begins
     // with a Korean syllable, and a Korean one always does.
     static Starts startsOf(const BlockMasks& masks) {
         using enum MatcherAlphabet::Flag;
@@ -198,54 +200,52 @@ private:
             .reversed = masks.having(endsMixed) | (masks.having(endsCompound) & masks.before(boundaries, boundary))};
     }
 
-    // Appends the places of a mask's bits with which a key of the trie may begin, read forward (1) or backward (-1).
+    // Appends what may begin a key of the set at a mask's bits, read forward (1) or backward (-1).
     template <std::ptrdiff_t direction>
-    Places::iterator choose(Trie trie, Mask mask, std::size_t block, Places::iterator end) const {
+    Beginnings::iterator choose(Set set, Mask mask, std::size_t block, Beginnings::iterator end) const {
         for (; mask != 0; mask &= mask - 1) {
-            *end = block + static_cast<std::size_t>(std::countr_zero(mask));
-            const Entry* const at = entries_ + *end;
+            const std::size_t place = block + static_cast<std::size_t>(std::countr_zero(mask));
+            const Entry* const at = entries_ + place;
             const auto codeAt = [at](std::ptrdiff_t index) { return MatcherAlphabet::code(at[index * direction]); };
-            const bool isPattern = (*at & MatcherAlphabet::isPattern) != 0;
-            end += isPattern | matcher_.filter_.mayBegin(trie, codeAt(0), codeAt(1), codeAt(2), codeAt(3));
+            const PrefixIndex::Prefixes prefixes(set, codeAt(0), codeAt(1), codeAt(2), codeAt(3));
+            const bool begins = index_.mayBegin(prefixes);
+            *end = {prefixes[1], place};
+            end += (*at & MatcherAlphabet::isPattern) != 0;
+            for (std::size_t length = 2; length <= PrefixIndex::depth; ++length) {
+                *end = {prefixes[length], place};
+                end += static_cast<std::ptrdiff_t>(begins & index_.mayFind(prefixes[length]));
+            }
         }
         return end;
     }
 
-    void walk(Trie trie, std::size_t start) {
-        DoubleArray::State state = array_.root(trie);
-        for (std::size_t position = start;;) {
-            state = array_.step(state, codeAt(position++));  // the end of the text has no child
-            if (state == DoubleArray::none) return;
-            if (!array_.isMarked(state)) continue;
-            if (array_.isEnd(state)) addForward(array_.value(state), start, position);
-            if (!array_.hasTail(state)) continue;
-            const DoubleArray::Tail tail = array_.tail(state);
-            for (const DoubleArray::Code code : tail.codes) {
-                if (codeAt(position++) != code) return;
+    // Reading stops at the edge of the text, which has no code.
+    template <std::ptrdiff_t direction>
+    void match(const Beginning& beginning) {
+        const PrefixIndex::Entry* const entry = index_.find(beginning.prefix);
+        if (entry == nullptr) return;
+        const auto length = static_cast<std::ptrdiff_t>(PrefixIndex::length(beginning.prefix));
+        const Entry* next = entries_ + beginning.place + length * direction;
+        const auto add = [&](std::uint32_t pattern) {
+            const auto position = static_cast<std::size_t>(next - entries_);
+            direction > 0 ? addForward(pattern, beginning.place, position)
+                          : addBackward(pattern, position + 1, beginning.place + 1);
+        };
+        if (entry->value != noPattern) add(entry->value);
+        for (auto state = entry->rest; state != DoubleArray::none; next += direction) {
+            if (rests_.isMarked(state)) {
+                if (rests_.isEnd(state)) add(rests_.value(state));
+                if (rests_.hasTail(state)) {
+                    const DoubleArray::Tail tail = rests_.tail(state);
+                    for (const DoubleArray::Code code : tail.codes) {
+                        if (MatcherAlphabet::code(*next) != code) return;
+                        next += direction;
+                    }
+                    return add(tail.value);
+                }
             }
-            return addForward(tail.value, start, position);
+            state = rests_.step(state, MatcherAlphabet::code(*next));
         }
-    }
-
-    void walkBack(std::size_t end) {
-        DoubleArray::State state = array_.root(reversed);
-        for (std::size_t start = end; start > 0;) {
-            state = array_.step(state, codeAt(--start));
-            if (state == DoubleArray::none) return;
-            if (!array_.isMarked(state)) continue;
-            if (array_.isEnd(state)) addBackward(array_.value(state), start, end);
-            if (!array_.hasTail(state)) continue;
-            const DoubleArray::Tail tail = array_.tail(state);
-            if (tail.codes.size() > start) return;
-            for (const DoubleArray::Code code : tail.codes) {
-                if (codeAt(--start) != code) return;
-            }
-            return addBackward(tail.value, start, end);
-        }
-    }
-
-    [[nodiscard]] DoubleArray::Code codeAt(std::size_t position) const {
-        return MatcherAlphabet::code(entries_[position]);
     }
 
     void addForward(std::uint32_t pattern, std::size_t start, std::size_t end) {
@@ -292,7 +292,8 @@ private:
     }
 
     const DocumentKindMatcher& matcher_;
-    const DoubleArray& array_;
+    const PrefixIndex& index_;
+    const DoubleArray& rests_;
     std::u32string_view text_;
     std::vector<Hit>& hits_;
     std::array<Entry, 512> few_;  // a title needs no memory of its own

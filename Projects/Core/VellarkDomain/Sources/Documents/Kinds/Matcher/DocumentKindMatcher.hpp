@@ -1,8 +1,7 @@
 #pragma once
 
-#include <VellarkDomain/Documents/Kinds/Matcher/DoubleArray.hpp>
 #include <VellarkDomain/Documents/Kinds/Matcher/MatcherAlphabet.hpp>
-#include <VellarkDomain/Documents/Kinds/Matcher/PrefixFilter.hpp>
+#include <VellarkDomain/Documents/Kinds/Matcher/PrefixIndex.hpp>
 
 #include <cstdint>
 #include <map>
@@ -81,18 +80,17 @@ private:
         bool hasEqual : 1 = false;  // a later pattern is the same text
     };
 
-    static constexpr std::uint32_t noPattern = 0xFFFF'FFFF;
+    static constexpr std::uint32_t noPattern = PrefixIndex::noValue;
 
-    enum Trie : std::size_t { anchored, floating, reversed, trieCount };
+    enum Set : std::uint32_t { anchored, floating, reversed, setCount };
 
     [[nodiscard]] static std::vector<Traits> traits(const Patterns& patterns);
-    [[nodiscard]] DoubleArray tries(std::span<const std::u32string> patterns);
+    [[nodiscard]] PrefixIndex index(std::span<const std::u32string> patterns);
 
     std::vector<Traits> traits_;
     std::map<std::uint32_t, std::uint32_t> nextEqual_;  // of patterns that have an equal
     MatcherAlphabet alphabet_;
-    PrefixFilter filter_;
-    DoubleArray array_;
+    PrefixIndex index_;
 };
 
 }  // namespace vellark

@@ -73,7 +73,7 @@ private:
             keys = keys.subspan(1);
         }
         if (keys.empty()) return;
-        if (keys.size() == 1 && pending.depth > 0) return addTail(pending.state, keys.front(), pending.depth);
+        if (keys.size() == 1) return addTail(pending.state, keys.front(), pending.depth);
         codes_.clear();
         const auto codeOf = [&](const Key& key) { return key.codes[pending.depth]; };
         for (const Key& key : keys) {

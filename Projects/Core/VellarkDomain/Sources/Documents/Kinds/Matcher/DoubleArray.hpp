@@ -33,7 +33,7 @@ public:
     /// One trie for each list of keys. The keys are sorted by their codes, and none is twice in a list. A cell's bits
     /// are shared between base and code: with 2,000 codes half a million cells fit, many times as many as the keys have
     /// states. Throws std::length_error beyond that.
-    explicit DoubleArray(std::span<const std::span<const Key>> tries);
+    explicit DoubleArray(std::span<const std::span<const Key>> tries = {});
 
     /// The root of a trie, in the order of the lists.
     [[nodiscard]] State root(std::size_t trie) const { return roots_[trie]; }
@@ -49,7 +49,7 @@ public:
 
     [[nodiscard]] bool isEnd(State state) const { return (cells_[state] & endsKey) != 0; }
 
-    /// Whether one key only goes on from the state, with its tail. A root has none.
+    /// Whether one key only goes on from the state, with its tail.
     [[nodiscard]] bool hasTail(State state) const { return (cells_[state] & hasRest) != 0; }
 
     /// The value of the key that ends at the state; only for ends.
