@@ -27,7 +27,7 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::userStories,
      .nouns = "user story, user stories, nutzergeschichte, anwendungsfall, anwendungsfälle, "
-              "akzeptanzkriterien, nutzergeschichten, use case, use cases",
+              "akzeptanzkriterien, nutzergeschichten, use case, use cases, anwendergeschichten",
      .weak = ""},
     {.kind = DocumentKind::meetingNotes,
      .nouns = "protokoll, besprechungsnotiz, besprechungsnotizen, gesprächsnotiz, tagesordnung, "
@@ -39,7 +39,7 @@ constexpr Layered words[] = {
     {.kind = DocumentKind::research,
      .nouns = "recherche, marktforschung, marktanalyse, wettbewerbsanalyse, umfrage, studie, befragung, "
               "fragebogen, literaturübersicht, umfrageergebnisse, interviewauswertung, zielgruppenanalyse, "
-              "vergleich",
+              "vergleich, nutzerinterviews",
      .weak = ""},
     {.kind = DocumentKind::retrospective,
      .nouns = "retrospektive, rückblick, lessons learned, retro, retrospective",
@@ -102,7 +102,7 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::sales,
      .nouns = "angebot, verkaufsunterlagen, vertriebsunterlagen, vertriebspräsentation, verkaufspräsentation, "
-              "produktkatalog, preisliste, katalog, angebote, verkaufsleitfaden",
+              "produktkatalog, preisliste, katalog, angebote, verkaufsleitfaden, produktblatt",
      .weak = ""},
     {.kind = DocumentKind::pressRelease,
      .nouns = "pressemitteilung, pressemeldung, presseinformation, pressetext, pressemappe, presseerklärung",
@@ -129,9 +129,8 @@ constexpr Layered words[] = {
               "impressum, bescheinigung, abmahnung, patientenverfügung, bürgschaft, verträge, klageschrift",
      .weak = ""},
     {.kind = DocumentKind::policy,
-     .nouns = "richtlinie, richtlinien, leitlinien, regelung, regeln, vorschriften, hausordnung, "
-              "geschäftsordnung, betriebsvereinbarung, verhaltenskodex, dienstanweisung, prüfungsordnung, "
-              "schulordnung, regelwerk, datenschutzerklärung",
+     .nouns = "richtlinie, richtlinien, leitlinien, regelung, regeln, vorschriften, betriebsvereinbarung, "
+              "verhaltenskodex, dienstanweisung, regelwerk, datenschutzerklärung, ordnung",
      .weak = ""},
     {.kind = DocumentKind::notice,
      .nouns = "mitteilung, bekanntmachung, ankündigung, rundschreiben, einladung, hinweis, hinweise, aushang, "
