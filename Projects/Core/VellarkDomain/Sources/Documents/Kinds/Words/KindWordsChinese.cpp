@@ -39,7 +39,7 @@ constexpr Base words[] = {
      .names = "报告, 周报, 日报, 月报, 汇报, 工作总结, 年终总结, 週報, 季报, 年报",
      .cues = "进展",
      .weak = "",
-     .markers = ""},
+     .markers = "本周, 下周, 存在问题"},
     {.kind = DocumentKind::research,
      .names = "调研, 调研报告, 问卷, 竞品分析, 市场分析, 用户访谈, 文献综述, 研究报告, 調查, 可行性分析, "
               "競品分析, 問卷, 问卷调查, 研究, 调查",

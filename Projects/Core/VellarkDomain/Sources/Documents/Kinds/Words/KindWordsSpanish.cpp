@@ -131,7 +131,7 @@ constexpr std::array<Layered, 55> words{{
      "nota de prensa, comunicado de prensa, dossier de prensa, boletín de prensa, "
      "declaración institucional",
      ""},
-    {DocumentKind::newsletter, "boletín, newsletter, newsletters, revista interna", ""},
+    {DocumentKind::newsletter, "boletín, newsletter, newsletters, boletines", ""},
     {DocumentKind::socialPost,
      "publicación en redes sociales, publicación de instagram, publicación de linkedin, "
      "post de instagram, post para, hilo de twitter, tuit, publicaciones redes sociales, "
