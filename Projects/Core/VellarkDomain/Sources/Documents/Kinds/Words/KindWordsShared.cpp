@@ -30,7 +30,8 @@ constexpr auto rows = std::to_array<Shared>({
               "작업 결과, 실행 결과, 처리 결과, 검증 결과, 측정 결과, 구현 요약, 작업 요약, 변경 요약, "
               "진행 요약, 구현 정리, 실험 결과, 実装まとめ, 実装結果, 作業報告, 対応結果, 検証結果, 测试结果, "
               "測試結果, 实现总结, 实施总结, 验证结果, 完成总结, 修复总结, 重构总结, 优化总结, trend, trends, "
-              "추이, 動向, 趋势, 趨勢, 推移, 사용성 테스트 결과, 进展, 项目进展, 進捗, 進展, 감사 결과",
+              "추이, 動向, 趋势, 趨勢, 推移, 사용성 테스트 결과, 进展, 项目进展, 進捗, 進展, 감사 결과, "
+              "결과 보고, 결과보고, 복명서",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<report, codeReview, essay>,
@@ -47,7 +48,8 @@ constexpr auto rows = std::to_array<Shared>({
      .names = "스토리, 시나리오, story, stories, ストーリー, シナリオ, 시놉시스, 줄거리, 세계관, 캐릭터 설정, "
               "synopsis, worldbuilding, character profile, あらすじ, プロット, 世界観, 剧情, 世界观, 人物小传, "
               "콩트, 팬픽, 우화, 동시, plot outline, character sheet, haiku, 小说大纲, 人物设定, 寓言, "
-              "剧情大纲, 同人文, 登場人物表, 俳句, 二次創作, 昔話, 웹소설, 장편 소설, 판타지 소설",
+              "剧情大纲, 同人文, 登場人物表, 俳句, 二次創作, 昔話, 웹소설, 장편 소설, 판타지 소설, 现代诗, "
+              "現代詩, 自作诗",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<exercises, quiz, bugReport>,
@@ -59,7 +61,7 @@ constexpr auto rows = std::to_array<Shared>({
               "演習, 計算 プリント, 例題, 演習 課題, 宿題 プリント, 口算题卡, 口算题, 학습지",
      .generics = "",
      .cues = "practice, mock, final, placement, entrance, driving, spelling, semester, certification, "
-              "licence, license, pub"},
+             "licence, license, pub"},
     {.kinds = anyOf<learning, lectureNotes>,
      .names = "강의 자료, 강좌, 온라인 강의, 교육 계획서, 학습 계획서, learning path, training plan, "
               "수업 자료, 강의 슬라이드, 유인물, lecture slide, lecture material, class material, handout, "
@@ -96,7 +98,7 @@ constexpr auto rows = std::to_array<Shared>({
               "值班表, 时间安排, 日历, 排班表, 应急预案, 年間予定, シフト表, アクション プラン, 時間割, "
               "当番表, マイルストーン, 편성표, task breakdown, 작업 분해, 작업 목록, 작업 분류, タスク 分解, "
               "任务分解, 任务拆解, run sheet, call sheet, run of show, 진행표, 진도표, 분장표, 업무 분장표, "
-              "당번표, 值日表, 行事予定, 予定",
+              "당번표, 值日表, 行事予定, 予定, 安排表, 진행 계획표",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<finance, report>,
@@ -113,7 +115,7 @@ constexpr auto rows = std::to_array<Shared>({
               "估价单, 成本核算表, 付款申请单, 采购订单, 流水账, 记账本, 予算書, 収支表, 発注書, 給与明細, "
               "納品書, 売上 予測, 振込 依頼書, 会計 報告, 収支 計画, 経費 精算, 決算 報告, 账本, 家庭账本, "
               "帳本, p l statement, 收支明細, 収支 報告, profit and loss statement, 발행 내역, 결제 내역, "
-              "입출금 내역, 사용 내역",
+              "입출금 내역, 사용 내역, 발행 목록, 报销明细, 收據, 费用报销单, 報銷單, 월급 명세서",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<businessPlan, presentation, sales, email>,
@@ -123,11 +125,11 @@ constexpr auto rows = std::to_array<Shared>({
               "融资计划书, 收益模型, business model, 비즈니스 모델, ビジネス モデル, 商业模式, 商業模式",
      .generics = "",
      .cues = "supplier, vendor, partner, candidate, landlord, colleague, application, confirmation, reminder, "
-              "invitation, delay, delivery, late, demo, meeting request, introduction, cancellation, refund, "
-              "complaint, feedback request, 거래처, 협력사, 파트너, 후보자, 납기, 지연, 회신, 안내, 초대, "
-              "취소, 환불, 독촉, 확인, 일정 변경, 取引先, お客様, お断り, 客戶, 供应商, 供應商, 回覆, 感谢, "
-              "感謝, 道歉, lightning, tech, meetup, inquiry, resignation, rejection, reference, request, "
-              "payment, shipping, appointment, 의뢰, 추천, cover"},
+             "invitation, delay, delivery, late, demo, meeting request, introduction, cancellation, refund, "
+             "complaint, feedback request, 거래처, 협력사, 파트너, 후보자, 납기, 지연, 회신, 안내, 초대, "
+             "취소, 환불, 독촉, 확인, 일정 변경, 取引先, お客様, お断り, 客戶, 供应商, 供應商, 回覆, 感谢, "
+             "感謝, 道歉, lightning, tech, meetup, inquiry, resignation, rejection, reference, request, "
+             "payment, shipping, appointment, 의뢰, 추천, cover"},
     {.kinds = anyOf<studyNotes, quiz, learning>,
      .names = "공부, 복습, 예습, 시험 요약, 중간고사 요약, 기말고사 요약, 시험 노트, 勉強, 復習, 复习, 複習, "
               "플래시카드, 암기 카드, flashcard, フラッシュカード, 闪卡, 단어장, 시험 대비, vocabulary list, "
@@ -138,7 +140,8 @@ constexpr auto rows = std::to_array<Shared>({
               "중간고사 요약 정리, 기말고사 요약 정리, 시험 요약 정리, 중간고사 대비, 기말고사 대비, "
               "시험 범위 정리, 암기 노트, 마인드맵, 공식 정리, 용어 정리, 핵심 요약, mind map, concept map, "
               "cheat note, 考试重点, 思维导图, 心智圖, 公式汇总, 自学笔记, 考研笔记, 試験 対策, 公式集, "
-              "用語集, マインド マップ, テスト 対策, 考前重点, 暗記まとめ, 暗記",
+              "用語集, マインド マップ, テスト 対策, 考前重点, 暗記まとめ, 暗記, 备考笔记, 备考资料, 備考筆記, "
+              "요약정리본",
      .generics = "",
      .cues = "시험, 중간고사, 기말고사, 중간, 기말, 단원, 수학, 영어, 국어, 과학, 물리, 화학, 생물, 지구과학, "
              "한국사, 세계사, 역사, 사회, 경제학, 심리학, 통계학, 미적분, 선형대수, 문법, 영문법, 단어, 어휘, "
@@ -146,7 +149,7 @@ constexpr auto rows = std::to_array<Shared>({
              "physics, chemistry, biology, history, geography, economics, psychology, grammar, vocabulary, "
              "anatomy, statistics, lesson, spanish, english, french, science, 試験, 期末, 期中, 中間, 数学, "
              "數學, 英語, 英语, 物理, 化学, 化學, 生物, 歴史, 世界史, 日本史, 历史, 歷史, 考试, 考試, 単元, "
-             "单元, 文法, 语法, 語法, 単語, 单词, 암기, 漢字, 計算, 国語, 算数, 理科, 听写, 语文"},
+             "单元, 文法, 语法, 語法, 単語, 单词, 암기, 漢字, 計算, 国語, 算数, 理科, 听写, 语文, 실기, 필기"},
     {.kinds = anyOf<studyNotes, guide>,
      .names = "",
      .generics = "",
@@ -163,67 +166,71 @@ constexpr auto rows = std::to_array<Shared>({
               "작업 메모, 作業メモ, 工作笔记, scratch note, rough note, loose note, 잡생각, 随想, 雑記, "
               "电话记录, 電話記録, 電話記錄, 通話記録",
      .generics = "정리, 정리본, 요약, 요약본, 요약문, 요약 정리, 초고, 초벌, 의견, 노트, 기록, 기록지, 기록물, "
-              "결과, 내용, summary, summaries, notes, note, recap, takeaways, takeaway, records, record, "
-              "findings, variants, january, february, march, april, may, june, july, august, september, "
-              "october, november, december, results, result, list, まとめ, ノート, 記録, 要約, 結果, 内容, "
-              "要点, 草稿, 素案, 月分, 月号, 初稿, 定稿, 修订稿, 第期, 第讲, 意见, 一月, 二月, 三月, 四月, "
-              "五月, 六月, 七月, 八月, 九月, 十月, 总结, 總結, 笔记, 筆記, 记录, 紀錄, 摘要, 小结, 结果, 纪要, "
-              "內容, 整理, xlsx, docx, pptx, pdf, md, csv, txt, hwp, sec, secs, min, mins, minutes, hours, "
-              "days, weeks, pages, issue, grade, ltd, inc, llc, one, two, three, four, five, edition, series, "
-              "session, episode, ep, season, spring, summer, fall, autumn, winter, monday, tuesday, wednesday, "
-              "thursday, friday, saturday, sunday, approved, confidential, internal, latest, current, signed, "
-              "제, 선, 건, 명, 쪽, 장, 가지, 상반기, 하반기, 학기, 봄, 여름, 가을, 겨울, 확정, 확정본, 확정안, "
-              "배포용, 제출용, 발표용, 내부용, 사내용, 대외용, 검토용, 정제본, 파트, 本, 問, 選, 件, 名分, 枚, "
-              "春, 夏, 秋, 冬, 前期, 後期, 上期, 下期, 上半期, 下半期, 抜粋, 確定版, 完成版, 修正版, 修正案, "
-              "暫定版, 社内用, 配布用, 提出用, 条, 條, 篇, 份, 则, 道, 题, 題, 页, 頁, 例, 合集, 精选, 精選, "
-              "大全, 汇总, 彙總, 修订版, 修訂版, 终稿, 终版, 最终版, 正式版, 完整版, 简版, 草案, 模板, 範本, "
-              "范本, 样本, 示例, 上学期, 下学期, 上學期, 下學期, 上半年, 下半年, 学年, 學年, 组, 組, 表, 集, "
-              "稿, 檔, 檔案, 版本, 上篇, 下篇, 全文, 詳細, 別紙, 控え, chapter, section, appendix, dump, "
-              "export, backup, 화, 막, 절, 과, 세트, 박, 인분, 분, 초, 시간, 話, 章, 節, 回分, 人前, 分, 章节, "
-              "januar, februar, märz, mai, juni, juli, oktober, dezember, janvier, février, mars, avril, juin, "
-              "juillet, août, septembre, octobre, novembre, décembre, enero, febrero, marzo, abril, mayo, "
-              "junio, julio, agosto, septiembre, octubre, noviembre, diciembre, kapitel, chapitre, capítulo, "
-              "tema, kw, semaine, semana, folge, ausgabe, teil, épisode, episodio, 文面, 図, 文, 用紙, 文言, "
-              "оны, сарын, анги, хавар, зун, намар, өвөл, улирлын, жил, 年月日, 月日, 年月分, 月末, 令和年, "
-              "令和年月, 令和年月日, 年度上期, 年度下期, 年度上半期, 年度下半期, 四半期, 第四半期, 第週, 第周, "
-              "第章節, 第节, 第節, 第课, 第課, 第季度, 季度, 第一季度, 第二季度, 第三季度, 第四季度, 第集, "
-              "第卷, 第部, 第版, 第次, 第天, 第弾, 第号, 第號, 第巻, 第部分, 第单元, 第單元, 第一章, 第二章, "
-              "第三章, 第四章, 第五章, 第一节, 第二节, 第三节, 第一课, 第二课, 第三课, 第一单元, 第二单元, "
-              "第三单元, 第四单元, 第五单元, 第一期, 第二期, 第三期, 第一回, 第二回, 第三回, 第一部, 第二部, "
-              "修改版, 更新版, 新版, 初版, 改訂, 更新, 月號, 月号分, 三月号, 十一月, 十二月, 월일, 년월일, "
-              "월호, 월분, 년도, 차시, 학년, 학년도, 반, 제장, 제절, 제회, 제차, 제호, 제권, 제과, 제부, 정의, "
-              "후보, 수정, 수정안, 최종안, jan, feb, mar, apr, jun, jul, aug, sep, sept, oct, nov, dec, mon, "
-              "tue, tues, wed, thu, thur, thurs, fri, sat, fy, wk, st, nd, rd, th, ii, iii, iv, phase, round, "
-              "level, module, year, term, semester, quarter, batch, scene, option, options, sprint, pr, h, nº, "
-              "numéro, número, nummer, số, tháng, tuần, quý, выпуск, часть, неделя, а, б, в, г, дүгээр, "
-              "дугаарын, эцсийн хувилбар, хаврын, намрын, хянасан, батлагдсан, финал, 国語, 算数, 理科, 社会, "
-              "数学, 英語, 物理, 化学, 生物, 地理, 歴史, 日本史, 世界史, 古文, 線形代数, 语文, 英语, 历史, "
-              "政治, 高数, 數學, 國文, 国史, 국어, 영어, 수학, 과학, 사회, 한국사, 물리, 생물, 지리, 総務部, "
-              "営業部, 経理部, 人事部, 開発部, 財務部, 财务部, 市场部, 人事部門, 销售部, 技术部, 行政部, "
-              "総務課, 営業課, 총무팀, 영업팀, 개발팀, 인사팀, 마케팅팀, 재무팀, 기획팀, 各位, 一式, 付き, "
-              "字幕つき, 改定版, 改定, 説明つき, 今週分, 来週分, 今月分, 夏休み, 冬休み, 寒假, 暑假, 学期末, "
-              "初中, 高中, 小学, 一年级, 二年级, 三年级, 四年级, 五年级, 六年级, 年级, 年級, 年生, 小学生, "
-              "中学生, 高校生, 사항, 안건별, 모음집, collection, compilation, 안, a안, b안, c안, 개정안, 시행, "
-              "개편안, 변경안, 年第週, 年第周, 年春号, 年夏号, 年秋号, 年冬号, 春号, 夏号, 秋号, 冬号, 新年号, "
-              "令和年度, 令和年月改定, 令和年月改訂, 年月改定, 年月改訂, 年度版, 令和年度版, 年前期, 年後期, "
-              "年度前期, 年度後期, 開発チーム, 営業チーム, 広報チーム, チーム, 事務局, 結果まとめ, unit, "
-              "年上半年, 年下半年, 年第季度, 年第一季度, 年第二季度, 年第三季度, 年第四季度, 年春季, 年秋季, "
-              "月第周, 月第週, 年月第周, 年第期, 年第号, 年四月, 学年だより, 年度第季度, 年初, 年末, 年终, "
-              "年終, 全員, 全体, 全社, 全员, cleaned, raw, merged, processed, filtered, exported, combined, "
-              "anonymized, ios, android, windows, macos, web, mobile, desktop, beta, alpha, staging, "
-              "production, prod",
+                 "결과, 내용, summary, summaries, notes, note, recap, takeaways, takeaway, records, record, "
+                 "findings, variants, january, february, march, april, may, june, july, august, september, "
+                 "october, november, december, results, result, list, まとめ, ノート, 記録, 要約, 結果, 内容, "
+                 "要点, 草稿, 素案, 月分, 月号, 初稿, 定稿, 修订稿, 第期, 第讲, 意见, 一月, 二月, 三月, 四月, "
+                 "五月, 六月, 七月, 八月, 九月, 十月, 总结, 總結, 笔记, 筆記, 记录, 紀錄, 摘要, 小结, 结果, 纪要, "
+                 "內容, 整理, xlsx, docx, pptx, pdf, md, csv, txt, hwp, sec, secs, min, mins, minutes, hours, "
+                 "days, weeks, pages, issue, grade, ltd, inc, llc, one, two, three, four, five, edition, series, "
+                 "session, episode, ep, season, spring, summer, fall, autumn, winter, monday, tuesday, wednesday, "
+                 "thursday, friday, saturday, sunday, approved, confidential, internal, latest, current, signed, "
+                 "제, 선, 건, 명, 쪽, 장, 가지, 상반기, 하반기, 학기, 봄, 여름, 가을, 겨울, 확정, 확정본, 확정안, "
+                 "배포용, 제출용, 발표용, 내부용, 사내용, 대외용, 검토용, 정제본, 파트, 本, 問, 選, 件, 名分, 枚, "
+                 "春, 夏, 秋, 冬, 前期, 後期, 上期, 下期, 上半期, 下半期, 抜粋, 確定版, 完成版, 修正版, 修正案, "
+                 "暫定版, 社内用, 配布用, 提出用, 条, 條, 篇, 份, 则, 道, 题, 題, 页, 頁, 例, 合集, 精选, 精選, "
+                 "大全, 汇总, 彙總, 修订版, 修訂版, 终稿, 终版, 最终版, 正式版, 完整版, 简版, 草案, 模板, 範本, "
+                 "范本, 样本, 示例, 上学期, 下学期, 上學期, 下學期, 上半年, 下半年, 学年, 學年, 组, 組, 表, 集, "
+                 "稿, 檔, 檔案, 版本, 上篇, 下篇, 全文, 詳細, 別紙, 控え, chapter, section, appendix, dump, "
+                 "export, backup, 화, 막, 절, 과, 세트, 박, 인분, 분, 초, 시간, 話, 章, 節, 回分, 人前, 分, 章节, "
+                 "januar, februar, märz, mai, juni, juli, oktober, dezember, janvier, février, mars, avril, juin, "
+                 "juillet, août, septembre, octobre, novembre, décembre, enero, febrero, marzo, abril, mayo, "
+                 "junio, julio, agosto, septiembre, octubre, noviembre, diciembre, kapitel, chapitre, capítulo, "
+                 "tema, kw, semaine, semana, folge, ausgabe, teil, épisode, episodio, 文面, 図, 文, 用紙, 文言, "
+                 "оны, сарын, анги, хавар, зун, намар, өвөл, улирлын, жил, 年月日, 月日, 年月分, 月末, 令和年, "
+                 "令和年月, 令和年月日, 年度上期, 年度下期, 年度上半期, 年度下半期, 四半期, 第四半期, 第週, 第周, "
+                 "第章節, 第节, 第節, 第课, 第課, 第季度, 季度, 第一季度, 第二季度, 第三季度, 第四季度, 第集, "
+                 "第卷, 第部, 第版, 第次, 第天, 第弾, 第号, 第號, 第巻, 第部分, 第单元, 第單元, 第一章, 第二章, "
+                 "第三章, 第四章, 第五章, 第一节, 第二节, 第三节, 第一课, 第二课, 第三课, 第一单元, 第二单元, "
+                 "第三单元, 第四单元, 第五单元, 第一期, 第二期, 第三期, 第一回, 第二回, 第三回, 第一部, 第二部, "
+                 "修改版, 更新版, 新版, 初版, 改訂, 更新, 月號, 月号分, 三月号, 十一月, 十二月, 월일, 년월일, "
+                 "월호, 월분, 년도, 차시, 학년, 학년도, 반, 제장, 제절, 제회, 제차, 제호, 제권, 제과, 제부, 정의, "
+                 "후보, 수정, 수정안, 최종안, jan, feb, mar, apr, jun, jul, aug, sep, sept, oct, nov, dec, mon, "
+                 "tue, tues, wed, thu, thur, thurs, fri, sat, fy, wk, st, nd, rd, th, ii, iii, iv, phase, round, "
+                 "level, module, year, term, semester, quarter, batch, scene, option, options, sprint, pr, h, nº, "
+                 "numéro, número, nummer, số, tháng, tuần, quý, выпуск, часть, неделя, а, б, в, г, дүгээр, "
+                 "дугаарын, эцсийн хувилбар, хаврын, намрын, хянасан, батлагдсан, финал, 国語, 算数, 理科, 社会, "
+                 "数学, 英語, 物理, 化学, 生物, 地理, 歴史, 日本史, 世界史, 古文, 線形代数, 语文, 英语, 历史, "
+                 "政治, 高数, 數學, 國文, 国史, 국어, 영어, 수학, 과학, 사회, 한국사, 물리, 생물, 지리, 総務部, "
+                 "営業部, 経理部, 人事部, 開発部, 財務部, 财务部, 市场部, 人事部門, 销售部, 技术部, 行政部, "
+                 "総務課, 営業課, 총무팀, 영업팀, 개발팀, 인사팀, 마케팅팀, 재무팀, 기획팀, 各位, 一式, 付き, "
+                 "字幕つき, 改定版, 改定, 説明つき, 今週分, 来週分, 今月分, 夏休み, 冬休み, 寒假, 暑假, 学期末, "
+                 "初中, 高中, 小学, 一年级, 二年级, 三年级, 四年级, 五年级, 六年级, 年级, 年級, 年生, 小学生, "
+                 "中学生, 高校生, 사항, 안건별, 모음집, collection, compilation, 안, a안, b안, c안, 개정안, 시행, "
+                 "개편안, 변경안, 年第週, 年第周, 年春号, 年夏号, 年秋号, 年冬号, 春号, 夏号, 秋号, 冬号, 新年号, "
+                 "令和年度, 令和年月改定, 令和年月改訂, 年月改定, 年月改訂, 年度版, 令和年度版, 年前期, 年後期, "
+                 "年度前期, 年度後期, 開発チーム, 営業チーム, 広報チーム, チーム, 事務局, 結果まとめ, unit, "
+                 "年上半年, 年下半年, 年第季度, 年第一季度, 年第二季度, 年第三季度, 年第四季度, 年春季, 年秋季, "
+                 "月第周, 月第週, 年月第周, 年第期, 年第号, 年四月, 学年だより, 年度第季度, 年初, 年末, 年终, "
+                 "年終, 全員, 全体, 全社, 全员, cleaned, raw, merged, processed, filtered, exported, combined, "
+                 "anonymized, ios, android, windows, macos, web, mobile, desktop, beta, alpha, staging, "
+                 "production, prod, 배포본, 회람본, 인쇄본, 제출본, 보고용, 결재용, 彙整, 修订, 修訂, a卷, b卷, "
+                 "甲卷, 乙卷, 首, 两首, 二首, 三首, 四首, 五首, 十首, 两篇, 三篇, 五篇, 第一周, 第二周, 第三周, "
+                 "第四周, 第五周, 第六周, 第一週, 第二週, 第三週, 第四週",
      .cues = "analyst, teacher, nurse, accountant, marketer, consultant, intern, graduate, new grad, 개발자, "
              "디자이너, 매니저, 마케터, 엔지니어, 면접용, エンジニア, デザイナー"},
     {.kinds = anyOf<journal, changelog>,
      .names = "일지, 작업 일지, 개발 일지, 운동 일지, 실험 일지, 연구 일지, 작업 로그, work log, dev log, "
               "devlog, logbook, 日誌, 日志, 운동 기록, 하루 기록, 工作日志, 手帐, 日録, daily log, "
-              "training log, workout log, food log, sleep log, travel log, exercise log, running log, mood log",
+              "training log, workout log, food log, sleep log, travel log, exercise log, running log, "
+              "mood log, 手账, 手帳, 实习日志",
      .generics = "로그, logs, log, ログ",
      .cues = ""},
     {.kinds = anyOf<meetingNotes, retrospective>,
      .names = "협의록, 스크럼 기록, 회의 결과, discussion note, weekly meeting, meeting outcome, 打合せ 記録, "
               "座谈会记录, 会议决议, 会议备忘, 晨会记录, 周会纪要, 面談 記録, 会議 次第, 定例 メモ, 面談 メモ, "
-              "상담 기록, 상담 일지, 면담 기록, 面谈记录, 會談記錄, 会谈记录, 朝礼 メモ",
+              "상담 기록, 상담 일지, 면담 기록, 面谈记录, 會談記錄, 会谈记录, 朝礼 メモ, 미팅록, 会记录, "
+              "会紀錄, 會記錄, 會紀錄, 议事录, 議事錄",
      .generics = "",
      .cues = "워크숍, 워크샵, 원온원, 데일리, 싱크, 타운홀, 정례 회의, 팀 미팅, 팀 회의, 임원 회의, "
              "전체 회의, 정기 회의, 이사회, 면접, workshop, town hall, all hands, check in, offsite, huddle, "
