@@ -6,8 +6,9 @@ include(CMakePackageConfigHelpers)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/bin")
 set(VELLARK_INCLUDE_ROOT "${PROJECT_BINARY_DIR}/include")
 
-# A build that a sanitizer watches: optimised enough to be quick, honest enough for stack traces. Assertions stay on.
-set(CMAKE_CXX_FLAGS_CHECKED "-O1 -g -fno-omit-frame-pointer -D_GLIBCXX_ASSERTIONS")
+# A build that a sanitizer watches: optimised enough to be quick, honest enough for stack traces, which need no more than
+# the lines. Assertions stay on.
+set(CMAKE_CXX_FLAGS_CHECKED "-O1 -g1 -fno-omit-frame-pointer -D_GLIBCXX_ASSERTIONS")
 
 # Settings of every target of this project, libraries and programs alike.
 function(vellark_configure_target target)

@@ -12,6 +12,8 @@ function(vellark_add_tests module)
     set(target ${module}Tests)
     add_executable(${target} ${sources})
     vellark_configure_target(${target})
+    # Most of what a run of the suite under sanitizers takes is compiling, and most of that is the tests themselves.
+    target_compile_options(${target} PRIVATE $<$<CONFIG:Checked>:-O0>)
     target_include_directories(${target} PRIVATE
         "${PROJECT_SOURCE_DIR}/Projects/Core/VellarkFoundation/Tests" "${CMAKE_CURRENT_SOURCE_DIR}/Tests")
     target_compile_definitions(${target} PRIVATE
