@@ -6,6 +6,11 @@
 #include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
+
+#ifdef __SSE2__
+#include <emmintrin.h>
+#endif
 
 namespace vellark {
 
@@ -19,12 +24,8 @@ public:
 
     /// Of the entries from a place on, with one more before them and one behind.
     explicit BlockMasks(const Entry* entries) : before_(entries[-1]), after_(entries[size]) {
-        for (std::size_t word = 0; word < flags_.size(); ++word) {
-            Mask bytes = 0;
-            for (std::size_t index = 0; index < 8; ++index) {
-                bytes |= Mask{entries[8 * word + index] & 0xFF} << (8 * index);
-            }
-            flags_[word] = bytes;
+        for (std::size_t index = 0; index < size; ++index) {
+            flags_[index] = static_cast<std::uint8_t>(entries[index]);
         }
     }
 
@@ -32,11 +33,22 @@ public:
     [[nodiscard]] Mask having(MatcherAlphabet::Flag flag) const {
         const int bit = std::countr_zero(static_cast<Entry>(flag));
         Mask mask = 0;
-        for (std::size_t index = 0; index < flags_.size(); ++index) {
-            // The product gathers the lowest bits of eight bytes in its highest byte.
-            const Mask bits = flags_[index] >> bit & 0x0101'0101'0101'0101;
-            mask |= (bits * 0x0102'0408'1020'4080) >> 56 << (8 * index);
+#ifdef __SSE2__
+        for (std::size_t index = 0; index < size; index += sizeof(__m128i)) {
+            __m128i bytes;
+            std::memcpy(&bytes, &flags_[index], sizeof bytes);
+            const int bits = _mm_movemask_epi8(_mm_slli_epi16(bytes, 7 - bit));
+            mask |= static_cast<Mask>(bits) << index;
         }
+#else
+        for (std::size_t index = 0; index < size; index += sizeof(std::uint64_t)) {
+            std::uint64_t bytes;
+            std::memcpy(&bytes, &flags_[index], sizeof bytes);
+            // The product gathers the lowest bits of eight bytes in its highest byte.
+            const std::uint64_t bits = bytes >> bit & 0x0101'0101'0101'0101;
+            mask |= (bits * 0x0102'0408'1020'4080) >> 56 << index;
+        }
+#endif
         return mask;
     }
 
@@ -53,7 +65,7 @@ public:
 private:
     Entry before_;
     Entry after_;
-    std::array<Mask, size / 8> flags_;  // a byte for each entry
+    alignas(16) std::array<std::uint8_t, size> flags_;
 };
 
 }  // namespace vellark

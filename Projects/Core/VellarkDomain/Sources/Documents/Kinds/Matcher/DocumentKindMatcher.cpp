@@ -13,7 +13,7 @@
 // The rules themselves say where a match can stand, so the patterns are in three sets, and are looked for only there:
 //
 //   anchored   words of spaced scripts, from each start of a word; Korean words, from each start of a Korean run
-//   floating   words of the other scripts, and Korean suffix nouns, from each scalar
+//   floating   words of the other scripts, from each scalar; Korean suffix nouns, from each inside a Korean run
 //   reversed   backwards: words that may end a longer word, from each end of a word, for matches inside words only
 //              (those at the start of one are found in the first set); and words that begin in a spaced script and
 //              go on in another ("api 문서"), which may begin anywhere, from each scalar that ends one
@@ -43,9 +43,11 @@ bool precedes(const Hit& left, const Hit& right) {
 void insertInOrder(std::vector<Hit>& hits, Hit hit) {
     auto place = hits.size();
     hits.push_back(hit);
-    for (; place > 0 && precedes(hit, hits[place - 1]); --place) {
+    if (place == 0 || !precedes(hit, hits[place - 1])) return;
+    do {
         hits[place] = hits[place - 1];
-    }
+        --place;
+    } while (place > 0 && precedes(hit, hits[place - 1]));
     hits[place] = hit;
 }
 
@@ -106,8 +108,9 @@ PrefixIndex DocumentKindMatcher::index(std::span<const std::u32string> patterns)
         if (one.spaced) {
             addForward(anchored, index, MatcherAlphabet::beginsAnchored);
             if (one.compound) addBackward(index, MatcherAlphabet::endsCompound);
-        } else if (one.hangulStart && !one.suffixHead) {
+        } else if (one.hangulStart) {
             addForward(anchored, index, MatcherAlphabet::beginsAnchored);
+            if (one.suffixHead) addForward(floating, index, MatcherAlphabet::beginsFloating);
         } else if (ScalarClasses::isSpaceless(patterns[index].front())) {
             addForward(floating, index, MatcherAlphabet::beginsFloating);
         } else {
@@ -159,10 +162,10 @@ public:
             const Starts starts = startsOf(BlockMasks(entries_ + block));
             Beginnings beginnings;
             auto end = beginnings.begin();
-            end = choose<1>(anchored, starts.anchored, block, end);
-            end = choose<1>(floating, starts.floating, block, end);
+            end = choose<1>(starts.anchored | starts.floating, starts.floating, block, end);
             const auto backward = end;
-            end = choose<-1>(reversed, starts.reversed, block, end);
+            end = choose<-1>(starts.reversed, 0, block, end);
+            std::for_each(beginnings.begin(), end, [this](const Beginning& one) { index_.prefetch(one.prefix); });
             std::for_each(beginnings.begin(), backward, [this](const Beginning& one) { match<1>(one); });
             std::for_each(backward, end, [this](const Beginning& one) { match<-1>(one); });
         }
@@ -175,13 +178,13 @@ private:
         PrefixIndex::Prefix prefix;
         std::size_t place;  // of its first scalar, read backward of its last
     };
-    using Beginnings = std::array<Beginning, setCount * BlockMasks::size * PrefixIndex::depth + 1>;
+    using Beginnings = std::array<Beginning, 2 * BlockMasks::size * PrefixIndex::depth + 1>;
 
     static constexpr Entry edge = MatcherAlphabet::boundary;  // what stands before and behind a text
     static constexpr std::size_t margin = PrefixIndex::depth - 1;
     static_assert(margin <= BlockMasks::size);
 
-    // Where the rules let a pattern of each set begin.
+    // Where the rules let a pattern of each set begin; no place is both anchored and floating.
     struct Starts {
         Mask anchored, floating, reversed;
     };
@@ -196,15 +199,18 @@ private:
             (korean & ~masks.behind(korean, hangul)) | (~korean & masks.behind(boundaries, boundary));
         return {
             .anchored = masks.having(beginsAnchored) & wordStarts,
-            .floating = masks.having(beginsFloating),
+            .floating = masks.having(beginsFloating) & ~(korean & wordStarts),
             .reversed = masks.having(endsMixed) | (masks.having(endsCompound) & masks.before(boundaries, boundary))};
     }
 
-    // Appends what may begin a key of the set at a mask's bits, read forward (1) or backward (-1).
+    // Appends what may begin a key at a mask's bits, read forward (1), of the floating set at its bits and of the
+    // anchored one elsewhere, or backward (-1).
     template <std::ptrdiff_t direction>
-    Beginnings::iterator choose(Set set, Mask mask, std::size_t block, Beginnings::iterator end) const {
+    Beginnings::iterator choose(Mask mask, Mask floats, std::size_t block, Beginnings::iterator end) const {
         for (; mask != 0; mask &= mask - 1) {
-            const std::size_t place = block + static_cast<std::size_t>(std::countr_zero(mask));
+            const int bit = std::countr_zero(mask);
+            const std::size_t place = block + static_cast<std::size_t>(bit);
+            const std::uint32_t set = direction < 0 ? reversed : static_cast<std::uint32_t>(floats >> bit & 1);
             const Entry* const at = entries_ + place;
             const auto codeAt = [at](std::ptrdiff_t index) { return MatcherAlphabet::code(at[index * direction]); };
             const PrefixIndex::Prefixes prefixes(set, codeAt(0), codeAt(1), codeAt(2), codeAt(3));
@@ -250,7 +256,7 @@ private:
 
     void addForward(std::uint32_t pattern, std::size_t start, std::size_t end) {
         for (; pattern != noPattern; pattern = nextEqual(pattern)) {
-            if (mayEnd(traits(pattern), end)) add(pattern, start, end);
+            if (mayBegin(traits(pattern), start) && mayEnd(traits(pattern), end)) add(pattern, start, end);
         }
     }
 
@@ -265,6 +271,11 @@ private:
         if (!pattern.spaced) return mayEnd(pattern, end);
         return pattern.compound && start > 0 && (entries_[start - 1] & MatcherAlphabet::boundary) == 0 &&
                (entries_[end] & MatcherAlphabet::boundary) != 0;
+    }
+
+    // Of equal Korean patterns some may be suffix nouns and some not.
+    [[nodiscard]] bool mayBegin(const Traits& pattern, std::size_t start) const {
+        return !pattern.hangulStart || pattern.suffixHead || (entries_[start - 1] & MatcherAlphabet::hangul) == 0;
     }
 
     [[nodiscard]] bool mayEnd(const Traits& pattern, std::size_t end) const {

@@ -82,7 +82,7 @@ private:
 
     static constexpr std::uint32_t noPattern = PrefixIndex::noValue;
 
-    enum Set : std::uint32_t { anchored, floating, reversed, setCount };
+    enum Set : std::uint32_t { anchored, floating, reversed };
 
     [[nodiscard]] static std::vector<Traits> traits(const Patterns& patterns);
     [[nodiscard]] PrefixIndex index(std::span<const std::u32string> patterns);
