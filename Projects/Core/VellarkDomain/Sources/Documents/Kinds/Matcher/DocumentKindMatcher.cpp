@@ -275,7 +275,8 @@ private:
 
     // Of equal Korean patterns some may be suffix nouns and some not.
     [[nodiscard]] bool mayBegin(const Traits& pattern, std::size_t start) const {
-        return !pattern.hangulStart || pattern.suffixHead || (entries_[start - 1] & MatcherAlphabet::hangul) == 0;
+        const Entry before = *(entries_ + start - 1);  // the edge at the start of a text
+        return !pattern.hangulStart || pattern.suffixHead || (before & MatcherAlphabet::hangul) == 0;
     }
 
     [[nodiscard]] bool mayEnd(const Traits& pattern, std::size_t end) const {
