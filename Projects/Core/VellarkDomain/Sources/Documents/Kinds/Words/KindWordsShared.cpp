@@ -98,7 +98,8 @@ constexpr auto rows = std::to_array<Shared>({
               "值班表, 时间安排, 日历, 排班表, 应急预案, 年間予定, シフト表, アクション プラン, 時間割, "
               "当番表, マイルストーン, 편성표, task breakdown, 작업 분해, 작업 목록, 작업 분류, タスク 分解, "
               "任务分解, 任务拆解, run sheet, call sheet, run of show, 진행표, 진도표, 분장표, 업무 분장표, "
-              "당번표, 值日表, 行事予定, 予定, 安排表, 진행 계획표",
+              "당번표, 值日表, 行事予定, 予定, 安排表, 진행 계획표, 推广方案, 营销方案, 活动方案, 推廣方案, "
+              "行銷方案",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<finance, report>,
@@ -115,14 +116,16 @@ constexpr auto rows = std::to_array<Shared>({
               "估价单, 成本核算表, 付款申请单, 采购订单, 流水账, 记账本, 予算書, 収支表, 発注書, 給与明細, "
               "納品書, 売上 予測, 振込 依頼書, 会計 報告, 収支 計画, 経費 精算, 決算 報告, 账本, 家庭账本, "
               "帳本, p l statement, 收支明細, 収支 報告, profit and loss statement, 발행 내역, 결제 내역, "
-              "입출금 내역, 사용 내역, 발행 목록, 报销明细, 收據, 费用报销单, 報銷單, 월급 명세서",
+              "입출금 내역, 사용 내역, 발행 목록, 报销明细, 收據, 费用报销单, 報銷單, 월급 명세서, quotation, "
+              "发票明细",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<businessPlan, presentation, sales, email>,
      .names = "피치 덱, 피치, ir 자료, ir 덱, 투자 유치 자료, pitch deck, pitch, investor deck, "
               "investor presentation, ir deck, ピッチ資料, ピッチデック, 路演, 路演材料, 商业画布, 商業畫布, "
               "リーン キャンバス, business model canvas, lean canvas, investment memo, 투자 제안서, 수익 모델, "
-              "融资计划书, 收益模型, business model, 비즈니스 모델, ビジネス モデル, 商业模式, 商業模式",
+              "融资计划书, 收益模型, business model, 비즈니스 모델, ビジネス モデル, 商业模式, 商業模式, "
+              "商业模式画布, 商業模式畫布",
      .generics = "",
      .cues = "supplier, vendor, partner, candidate, landlord, colleague, application, confirmation, reminder, "
              "invitation, delay, delivery, late, demo, meeting request, introduction, cancellation, refund, "
@@ -216,14 +219,17 @@ constexpr auto rows = std::to_array<Shared>({
                  "anonymized, ios, android, windows, macos, web, mobile, desktop, beta, alpha, staging, "
                  "production, prod, 배포본, 회람본, 인쇄본, 제출본, 보고용, 결재용, 彙整, 修订, 修訂, a卷, b卷, "
                  "甲卷, 乙卷, 首, 两首, 二首, 三首, 四首, 五首, 十首, 两篇, 三篇, 五篇, 第一周, 第二周, 第三周, "
-                 "第四周, 第五周, 第六周, 第一週, 第二週, 第三週, 第四週",
+                 "第四周, 第五周, 第六周, 第一週, 第二週, 第三週, 第四週, 주, 및, 교훈, の原稿, の下書き, の草稿, "
+                 "のドラフト, の初稿, のテンプレート, のひな形, の雛形, の最終版, の完成版, のサンプル, の控え, "
+                 "の書式, の様式, のたたき台, たたき台, の修正案, の改訂版, の案, 的初稿, 的草稿, 的模板, 的终稿, "
+                 "的范本, 的示例",
      .cues = "analyst, teacher, nurse, accountant, marketer, consultant, intern, graduate, new grad, 개발자, "
              "디자이너, 매니저, 마케터, 엔지니어, 면접용, エンジニア, デザイナー"},
     {.kinds = anyOf<journal, changelog>,
      .names = "일지, 작업 일지, 개발 일지, 운동 일지, 실험 일지, 연구 일지, 작업 로그, work log, dev log, "
               "devlog, logbook, 日誌, 日志, 운동 기록, 하루 기록, 工作日志, 手帐, 日録, daily log, "
               "training log, workout log, food log, sleep log, travel log, exercise log, running log, "
-              "mood log, 手账, 手帳, 实习日志",
+              "mood log, 手账, 手帳, 实习日志, diary entry, diary entries",
      .generics = "로그, logs, log, ログ",
      .cues = ""},
     {.kinds = anyOf<meetingNotes, retrospective>,
@@ -239,7 +245,7 @@ constexpr auto rows = std::to_array<Shared>({
     {.kinds = anyOf<blogPost, socialPost, essay>,
      .names = "포스트, 게시글, 스레드, thread, スレッド, 후기, 체험기, 사용기, 방문기, 기고, post, write up, "
               "writeup, 記事, 文章, 帖子, 体験記, 기사, 아티클, 포스팅, 블로그 포스트, 体験談, 博文, listicle, "
-              "리뷰 글, 매거진 글, 经验贴, 社媒帖子, 食レポ",
+              "리뷰 글, 매거진 글, 经验贴, 社媒帖子, 食レポ, 旅行記, 여행기, 游记, 遊記",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<data, checklist>,
@@ -248,7 +254,7 @@ constexpr auto rows = std::to_array<Shared>({
               "明细表, 明細表, 明细, 汇总表, 彙總表, 数据表, 數據表, 集計表, 住所録, 通訊録, spreadsheet, "
               "주소록, 연락처, 집계표, 출석부, 통계표, 로우 데이터, 데이터시트, 집계 자료, attendance sheet, "
               "survey response, measurement, 登记表, 登記表, 清册, 资料库, 資料庫, 成绩单, 考勤表, 签到表, "
-              "點名表, 數據, 在庫表, 出席簿, 成績表, 库存表, 庫存表",
+              "點名表, 數據, 在庫表, 出席簿, 成績表, 库存表, 庫存表, results table, result table",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<guide, learning>,
@@ -260,7 +266,8 @@ constexpr auto rows = std::to_array<Shared>({
               "業務 フロー, 早わかり, 虎の巻, 引継書, 作業 要領, 引き継ぎ書, 引継ぎ書, 引き継ぎ 資料, "
               "引継ぎ 資料, 트러블슈팅, 환경 설정, 환경 구성, 문제 해결 가이드, トラブル シューティング, "
               "環境 設定, 故障排查, 问题排查, 環境建置, 环境搭建, 环境配置, 처리 절차, 신청 절차, 이용 절차, "
-              "진행 절차, 꿀팁, 꿀팁 모음, 노하우, 申請方法, 利用方法, 申请方法, 使用方法, 操作方法, 登録方法",
+              "진행 절차, 꿀팁, 꿀팁 모음, 노하우, 申請方法, 利用方法, 申请方法, 使用方法, 操作方法, 登録方法, "
+              "절차서",
      .generics = "문서, 문서화, 서류, 개요, 소개, 입문, 기초, documents, document, documentation, doc, docs, "
                  "overview, introduction, intro, basics, fundamentals, 文書, ドキュメント, 概要, 紹介, 入門, "
                  "基礎, 文档, 文檔, 文件, 概述, 简介, 簡介, 介绍, 介紹, 入门, 基础, 概览, 概覽, 总览, 개괄, "

@@ -40,7 +40,7 @@ constexpr std::array<Layered, 55> words{{
     {DocumentKind::research,
      "nghiên cứu, bài nghiên cứu, khảo sát, phân tích thị trường, phân tích đối thủ, "
      "phân tích swot, so sánh, bảng so sánh, tổng quan tài liệu, phiếu khảo sát, "
-     "kết quả khảo sát, tìm hiểu, điều tra",
+     "kết quả khảo sát, điều tra",
      ""},
     {DocumentKind::retrospective, "rút kinh nghiệm, bài học kinh nghiệm, tổng kết dự án, tổng kết sprint, nhìn lại",
      ""},
@@ -57,20 +57,20 @@ constexpr std::array<Layered, 55> words{{
     {DocumentKind::designDoc,
      "tài liệu thiết kế, thiết kế hệ thống, thiết kế kỹ thuật, thiết kế phần mềm, "
      "thiết kế cơ sở dữ liệu, mô hình dữ liệu, sơ đồ kiến trúc, lưu đồ, kiến trúc, "
-     "tổng quan kiến trúc",
+     "tổng quan kiến trúc, thiết kế kiến trúc",
      ""},
     {DocumentKind::apiDoc,
      "tài liệu api, đặc tả api, hướng dẫn api, tài liệu tích hợp api, mô tả api, "
-     "mô tả các endpoint",
+     "mô tả các endpoint, tham chiếu",
      ""},
     {DocumentKind::testPlan,
      "kế hoạch kiểm thử, kế hoạch test, trường hợp kiểm thử, kịch bản kiểm thử, "
-     "kịch bản test, tài liệu kiểm thử, ca kiểm thử",
+     "kịch bản test, tài liệu kiểm thử, ca kiểm thử, bộ test case",
      ""},
-    {DocumentKind::bugReport, "báo cáo lỗi, báo lỗi, danh sách lỗi, mô tả lỗi", ""},
+    {DocumentKind::bugReport, "báo cáo lỗi, báo lỗi, danh sách lỗi, mô tả lỗi, lỗi", ""},
     {DocumentKind::codeReview,
      "đánh giá mã nguồn, đánh giá code, kiểm tra mã nguồn, nhận xét code, review code, "
-     "nhận xét mã nguồn",
+     "nhận xét mã nguồn, kết quả rà soát code, rà soát code",
      ""},
     {DocumentKind::postmortem, "báo cáo sự cố, phân tích sự cố, phân tích nguyên nhân gốc rễ", ""},
     {DocumentKind::changelog,
@@ -84,7 +84,7 @@ constexpr std::array<Layered, 55> words{{
      ""},
     {DocumentKind::data,
      "dữ liệu, bộ dữ liệu, số liệu, thống kê, bảng thống kê, danh sách, bảng điểm, "
-     "bảng chấm công, bảng số liệu, danh bạ, bảng dữ liệu",
+     "bảng số liệu, danh bạ, bảng dữ liệu",
      ""},
     {DocumentKind::prompt, "prompt, bộ prompt, prompt viết, prompt tạo, câu lệnh", ""},
     {DocumentKind::design,
@@ -98,22 +98,19 @@ constexpr std::array<Layered, 55> words{{
      ""},
     {DocumentKind::marketingCopy,
      "bài quảng cáo, nội dung quảng cáo, quảng cáo, bài viết quảng cáo, khẩu hiệu, tờ rơi, "
-     "mô tả sản phẩm, bài viết bán hàng, content bán hàng, content quảng cáo, slogan",
+     "mô tả sản phẩm, bài viết bán hàng, content quảng cáo, slogan",
      ""},
     {DocumentKind::sales,
      "tài liệu bán hàng, hồ sơ năng lực, kịch bản bán hàng, bảng giá, thư chào hàng, chào hàng, "
-     "hồ sơ chào hàng, kịch bản chốt sale",
+     "hồ sơ chào hàng, kịch bản chốt sale, kịch bản tư vấn",
      ""},
-    {DocumentKind::pressRelease, "thông cáo, bài thông cáo báo chí, tcbc", ""},
+    {DocumentKind::pressRelease, "thông cáo, tcbc", ""},
     {DocumentKind::newsletter, "bản tin", ""},
     {DocumentKind::socialPost,
-     "bài đăng, bài post, bài viết facebook, bài viết mạng xã hội, nội dung mạng xã hội, "
+     "bài đăng, bài viết facebook, bài viết mạng xã hội, nội dung mạng xã hội, "
      "caption instagram",
      ""},
-    {DocumentKind::businessPlan,
-     "kế hoạch kinh doanh, bản kế hoạch kinh doanh, mô hình kinh doanh, phương án kinh doanh, "
-     "đề án kinh doanh",
-     ""},
+    {DocumentKind::businessPlan, "kế hoạch kinh doanh, mô hình kinh doanh, phương án kinh doanh, đề án kinh doanh", ""},
     {DocumentKind::finance,
      "ngân sách, dự toán, hóa đơn, hoá đơn, báo giá, bảng báo giá, báo cáo tài chính, "
      "báo cáo thu chi, bảng lương, bảng cân đối kế toán, sổ thu chi, quyết toán, dòng tiền, "
@@ -124,7 +121,7 @@ constexpr std::array<Layered, 55> words{{
      "hợp đồng, mẫu hợp đồng, dự thảo hợp đồng, thỏa thuận, thoả thuận, điều khoản, "
      "giấy ủy quyền, đơn khởi kiện, biên bản ghi nhớ, biên bản nghiệm thu, "
      "biên bản bàn giao, giấy phép, điều lệ, bản cam kết, nghị định, phụ lục hợp đồng, "
-     "bản án, giấy uỷ quyền, biên bản thanh lý, cam kết, di chúc, hdld",
+     "giấy uỷ quyền, biên bản thanh lý, cam kết, di chúc, hdld",
      ""},
     {DocumentKind::policy,
      "chính sách, quy định, quy chế, nội quy, quy tắc, tiêu chuẩn, quyết định, nghị quyết, "
@@ -146,8 +143,8 @@ constexpr std::array<Layered, 55> words{{
      "bài luận, bài tiểu luận, bài văn, cảm nhận, cảm nghĩ, tản văn, review phim, nghị luận, "
      "tùy bút, bài bình, bài cảm nhận",
      ""},
-    {DocumentKind::story, "truyện, tiểu thuyết, bài thơ, thơ, cổ tích, lời bài hát", ""},
-    {DocumentKind::translation, "bản dịch, bài dịch, dịch tài liệu, dịch công chứng", ""},
+    {DocumentKind::story, "truyện, tiểu thuyết, bài thơ, thơ, cổ tích, lời bài hát, tập thơ", ""},
+    {DocumentKind::translation, "bản dịch, bài dịch, dịch tài liệu, dịch công chứng, dịch thuật", ""},
     {DocumentKind::learning,
      "giáo án, giáo trình, tài liệu học tập, tài liệu đào tạo, chương trình đào tạo, "
      "chương trình học, khóa học, khoá học, bài học, đề cương môn học, kế hoạch bài dạy, "
@@ -160,11 +157,11 @@ constexpr std::array<Layered, 55> words{{
     {DocumentKind::studyNotes,
      "ghi chú học tập, ghi chép học tập, đề cương ôn tập, đề cương ôn thi, ôn tập, "
      "tài liệu ôn tập, tóm tắt kiến thức, tổng hợp kiến thức, sơ đồ tư duy, từ vựng, "
-     "tài liệu ôn thi, tóm tắt ôn thi, tóm tắt lý thuyết, tóm tắt chương, ghi chú ôn thi",
+     "tài liệu ôn thi, tóm tắt ôn thi, tóm tắt lý thuyết, ghi chú ôn thi",
      ""},
     {DocumentKind::readingNotes,
-     "ghi chú đọc sách, nhật ký đọc sách, tóm tắt sách, tóm tắt tác phẩm, cảm nhận sách, "
-     "điểm sách, review sách, ghi chép đọc sách",
+     "ghi chú đọc sách, tóm tắt sách, tóm tắt tác phẩm, cảm nhận sách, điểm sách, review sách, "
+     "ghi chép đọc sách, nhật ký đọc",
      ""},
     {DocumentKind::exercises, "bài tập, phiếu bài tập, phiếu học tập, bài toán, bài thực hành, luyện tập", ""},
     {DocumentKind::solutions, "lời giải, đáp án, bài giải, hướng dẫn giải, giải bài tập, giải đề, giải chi tiết", ""},
@@ -173,8 +170,8 @@ constexpr std::array<Layered, 55> words{{
      "câu hỏi trắc nghiệm, ngân hàng câu hỏi, kiểm tra giữa kỳ, bộ đề, thi thử",
      ""},
     {DocumentKind::errorNotes,
-     "sổ tay lỗi sai, tổng hợp lỗi sai, lỗi sai, sổ ghi lỗi, ghi chép lỗi sai, "
-     "ghi chép câu sai, những câu hay sai",
+     "sổ tay lỗi sai, tổng hợp lỗi sai, lỗi sai, sổ ghi lỗi, ghi chép câu sai, "
+     "những câu hay sai",
      ""},
     {DocumentKind::paper,
      "luận văn, luận án, khóa luận, khoá luận, đồ án, bài báo khoa học, đề tài nghiên cứu, "
