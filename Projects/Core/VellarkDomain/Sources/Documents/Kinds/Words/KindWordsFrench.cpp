@@ -29,8 +29,8 @@ constexpr Layered words[] = {
               "critères d'acceptation, scénario utilisateur, backlog produit, récits utilisateur",
      .weak = ""},
     {.kind = DocumentKind::meetingNotes,
-     .nouns = "compte rendu, comptes rendus, procès-verbal, procès-verbaux, cr de réunion, cr réunion, "
-              "relevé de décisions, notes de réunion, ordre du jour, point hebdo, pv, cr point, cr, réunions",
+     .nouns = "compte rendu, comptes rendus, procès-verbal, procès-verbaux, relevé de décisions, "
+              "notes de réunion, ordre du jour, point hebdo, pv, cr, réunions",
      .weak = ""},
     {.kind = DocumentKind::report,
      .nouns = "rapport, rapports, bilan, bilans, reporting, synthèse, synthèses, note de synthèse, "
@@ -42,7 +42,7 @@ constexpr Layered words[] = {
      .nouns = "étude, études, recherche, enquête, sondage, analyse concurrentielle, analyse de marché, veille, "
               "état de l'art, revue de littérature, revue de la littérature, questionnaire, "
               "benchmark concurrentiel, synthèse des entretiens, résultats du sondage, résultats de l'enquête, "
-              "comparatif",
+              "comparatif, analyse de la concurrence",
      .weak = ""},
     {.kind = DocumentKind::retrospective,
      .nouns = "rétrospective, rétro, retour d'expérience, retours d'expérience, bilan de projet, bilan "
@@ -206,12 +206,13 @@ constexpr Layered words[] = {
               "livret de formation, progression annuelle",
      .weak = ""},
     {.kind = DocumentKind::lectureNotes,
-     .nouns = "notes de cours, prise de notes, notes de conférence, notes de séminaire, polycopié",
+     .nouns = "notes de cours, prise de notes, notes de conférence, notes de séminaire, polycopié, "
+              "cours magistral",
      .weak = ""},
     {.kind = DocumentKind::studyNotes,
      .nouns = "fiche de révision, fiches de révision, révisions, fiche de synthèse, résumé de cours, "
               "aide-mémoire, fiche de cours, fiches de cours, vocabulaire, notes de révision, "
-              "résumé de chapitre, carte mentale, résumé du chapitre",
+              "résumé de chapitre, carte mentale, résumé du chapitre, fiches de vocabulaire",
      .weak = ""},
     {.kind = DocumentKind::readingNotes,
      .nouns = "fiche de lecture, fiches de lecture, notes de lecture, note de lecture, "

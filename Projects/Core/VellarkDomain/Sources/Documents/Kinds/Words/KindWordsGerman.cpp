@@ -19,15 +19,15 @@ constexpr Layered words[] = {
     {.kind = DocumentKind::spec,
      .nouns = "spezifikation, pflichtenheft, lastenheft, anforderungen, anforderungskatalog, "
               "leistungsbeschreibung, funktionsbeschreibung, fachkonzept, leistungsverzeichnis, datenblatt, "
-              "anforderungsdokument, spezifikationen",
+              "anforderungsdokument, spezifikationen, anforderungsliste",
      .weak = ""},
     {.kind = DocumentKind::plan,
      .nouns = "plan, zeitplan, terminplan, projektplan, maßnahmenplan, wochenplan, dienstplan, planung, "
               "strategie, roadmap, schichtplan, migrationsplan, roadmaps, okr, planning",
      .weak = ""},
     {.kind = DocumentKind::userStories,
-     .nouns = "user story, user stories, nutzergeschichte, anwendungsfall, anwendungsfälle, "
-              "akzeptanzkriterien, nutzergeschichten, use case, use cases, anwendergeschichten",
+     .nouns = "user story, user stories, anwendungsfall, anwendungsfälle, akzeptanzkriterien, "
+              "nutzergeschichten, use case, use cases, anwendergeschichten, user storys",
      .weak = ""},
     {.kind = DocumentKind::meetingNotes,
      .nouns = "protokoll, besprechungsnotiz, besprechungsnotizen, gesprächsnotiz, tagesordnung, "
@@ -45,7 +45,8 @@ constexpr Layered words[] = {
      .nouns = "retrospektive, rückblick, lessons learned, retro, retrospective",
      .weak = ""},
     {.kind = DocumentKind::checklist,
-     .nouns = "checkliste, aufgabenliste, to-do-liste, einkaufsliste, packliste, prüfliste, checklist",
+     .nouns = "checkliste, aufgabenliste, to-do-liste, einkaufsliste, packliste, prüfliste, checklist, "
+              "einkaufszettel",
      .weak = "aufgaben"},
     {.kind = DocumentKind::proposal, .nouns = "vorschlag, antrag, ausschreibung", .weak = ""},
     {.kind = DocumentKind::memo,
@@ -57,18 +58,18 @@ constexpr Layered words[] = {
     {.kind = DocumentKind::designDoc,
      .nouns = "architektur, architekturkonzept, architekturentscheidung, technisches konzept, feinkonzept, "
               "systementwurf, datenmodell, architekturentwurf, architekturdokument, technisches design, "
-              "entwurfsdokument, ablaufdiagramm, grobkonzept, architekturübersicht",
+              "entwurfsdokument, ablaufdiagramm, grobkonzept, architekturübersicht, schema",
      .weak = ""},
     {.kind = DocumentKind::apiDoc,
      .nouns = "api-dokumentation, api-referenz, api-spezifikation, schnittstellenbeschreibung, "
-              "schnittstellendokumentation, schnittstellenspezifikation, schnittstellenreferenz",
+              "schnittstellendokumentation, schnittstellenreferenz",
      .weak = ""},
     {.kind = DocumentKind::testPlan,
      .nouns = "testplan, testkonzept, testfall, testfälle, teststrategie, testprotokoll, prüfplan, "
-              "abnahmetest, testszenarien, test case, test cases",
+              "abnahmetest, testszenarien, test cases",
      .weak = ""},
     {.kind = DocumentKind::bugReport,
-     .nouns = "fehlerbericht, fehlermeldung, bugreport, störungsmeldung, fehlerliste, bug report",
+     .nouns = "fehlerbericht, fehlermeldung, bugreport, fehlerliste, bug report",
      .weak = ""},
     {.kind = DocumentKind::codeReview, .nouns = "code review, codedurchsicht, codeprüfung", .weak = ""},
     {.kind = DocumentKind::postmortem,
@@ -82,7 +83,7 @@ constexpr Layered words[] = {
     {.kind = DocumentKind::guide,
      .nouns = "anleitung, handbuch, leitfaden, guide, einführung, dokumentation, tutorial, ratgeber, "
               "gebrauchsanweisung, arbeitsanweisung, erste schritte, einarbeitungsplan, verfahrensanweisung, "
-              "prozessbeschreibung, anleitungen, schritt-für-schritt-anleitung, runbook, troubleshooting",
+              "prozessbeschreibung, anleitungen, schritt-für-schritt-anleitung, runbook",
      .weak = ""},
     {.kind = DocumentKind::data,
      .nouns = "daten, datensatz, tabelle, statistik, kennzahlen, messwerte, liste, inventar, zahlen",
@@ -102,10 +103,11 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::sales,
      .nouns = "angebot, verkaufsunterlagen, vertriebsunterlagen, vertriebspräsentation, verkaufspräsentation, "
-              "produktkatalog, preisliste, katalog, angebote, verkaufsleitfaden, produktblatt",
+              "produktkatalog, preisliste, katalog, angebote, verkaufsleitfaden",
      .weak = ""},
     {.kind = DocumentKind::pressRelease,
-     .nouns = "pressemitteilung, pressemeldung, presseinformation, pressetext, pressemappe, presseerklärung",
+     .nouns = "pressemitteilung, pressemeldung, presseinformation, pressetext, pressemappe, presseerklärung, "
+              "presseinfo",
      .weak = ""},
     {.kind = DocumentKind::newsletter,
      .nouns = "newsletter, rundbrief, infobrief, mitarbeiterzeitung, gemeindebrief",
@@ -142,7 +144,8 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::email,
      .nouns = "begleitschreiben, dankschreiben, kündigungsschreiben, antwortschreiben, beschwerdebrief, "
-              "rundmail, willkommensmail, mail an, anfrage, antwortmail, e-mail-entwurf, anschreiben",
+              "rundmail, willkommensmail, mail an, anfrage, antwortmail, e-mail-entwurf, anschreiben, "
+              "antwort auf",
      .weak = "mail, mails, e-mail"},
     {.kind = DocumentKind::faq,
      .nouns = "häufige fragen, häufig gestellte fragen, faq, fragen und antworten, q a",
@@ -165,7 +168,7 @@ constexpr Layered words[] = {
     {.kind = DocumentKind::learning,
      .nouns = "lehrplan, unterrichtsmaterial, unterrichtsmaterialien, unterrichtsentwurf, unterrichtsplanung, "
               "schulungsunterlagen, kursunterlagen, modulhandbuch, stoffverteilungsplan, seminarplan, "
-              "arbeitsheft, lernplan, schulungskonzept, syllabus",
+              "arbeitsheft, lernplan, schulungskonzept, syllabus, kursplan",
      .weak = ""},
     {.kind = DocumentKind::lectureNotes,
      .nouns = "mitschrift, vorlesungsnotizen, vorlesungsskript, lecture notes",
@@ -191,7 +194,7 @@ constexpr Layered words[] = {
      .weak = "prüfung, prüfungen, quiz"},
     {.kind = DocumentKind::paper,
      .nouns = "abschlussarbeit, bachelorarbeit, masterarbeit, dissertation, doktorarbeit, hausarbeit, "
-              "seminararbeit, facharbeit, projektarbeit, diplomarbeit, forschungsarbeit",
+              "seminararbeit, facharbeit, diplomarbeit, forschungsarbeit",
      .weak = ""},
     {.kind = DocumentKind::journal, .nouns = "tagebuch, tagebucheintrag, logbuch", .weak = ""},
     {.kind = DocumentKind::resume,
