@@ -65,8 +65,8 @@ constexpr Base words[] = {
      .markers = ""},
     {.kind = DocumentKind::memo, .names = "メモ", .cues = "引き継ぎ", .weak = "控え", .markers = ""},
     {.kind = DocumentKind::presentation,
-     .names = "発表 資料, プレゼンテーション, プレゼン, スライド, 説明 資料, 会議 資料, 投影資料, パワポ, "
-              "登壇 資料, 講演 資料",
+     .names = "発表 資料, プレゼンテーション, プレゼン, スライド, 会議 資料, 投影資料, パワポ, 登壇 資料, "
+              "講演 資料",
      .cues = "発表",
      .weak = "",
      .markers = ""},
@@ -253,7 +253,7 @@ constexpr Base words[] = {
      .weak = "試験, テスト",
      .markers = ""},
     {.kind = DocumentKind::errorNotes,
-     .names = "間違い ノート, 間違い直し, 誤答, ミス ノート",
+     .names = "間違い ノート, 間違い直し, 誤答, ミス ノート, 間違えた 問題",
      .cues = "",
      .weak = "",
      .markers = ""},
