@@ -52,7 +52,7 @@ constexpr auto rows = std::to_array<Base>({
     {.kind = research,
      .names = "research, survey, research report, survey report, competitive analysis, competitor analysis, "
               "market analysis, literature review, case study, comparison, feasibility study, user interview, "
-              "questionnaire, swot analysis, interviews, survey analysis, synthesis",
+              "questionnaire, swot analysis, interviews, survey analysis, synthesis, usability study",
      .cues = "research, market, competitor, competitive, survey, interview, industry",
      .weak = "landscape, trend, findings",
      .markers = "respondent, sample size, survey, interview"},
@@ -62,8 +62,7 @@ constexpr auto rows = std::to_array<Base>({
      .weak = "year, learnings",
      .markers = "what went well, keep problem try, what didn't go well, what could, what we learned"},
     {.kind = checklist,
-     .names = "task list, todo list, to do list, shopping list, packing list, grocery list, bucket list, "
-              "groceries list",
+     .names = "task list, todo list, to do list, shopping list, packing list, grocery list, groceries list",
      .cues = "daily, today, packing, list",
      .weak = "todo, to do, task list",
      .markers = ""},
@@ -153,8 +152,8 @@ constexpr auto rows = std::to_array<Base>({
      .weak = "",
      .markers = ""},
     {.kind = sales,
-     .names = "sales pitch, sales script, sales proposal, price list, pricing, catalog, success story, "
-              "call script, rate card, product sheet, one sheet, sales",
+     .names = "sales pitch, sales script, price list, pricing, catalog, success story, call script, rate card, "
+              "product sheet, one sheet, sales",
      .cues = "sales, customer",
      .weak = "pitch, leads",
      .markers = ""},

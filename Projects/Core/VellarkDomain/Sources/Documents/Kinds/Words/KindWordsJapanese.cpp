@@ -65,8 +65,7 @@ constexpr Base words[] = {
      .markers = ""},
     {.kind = DocumentKind::memo, .names = "メモ", .cues = "引き継ぎ", .weak = "控え", .markers = ""},
     {.kind = DocumentKind::presentation,
-     .names = "発表 資料, プレゼンテーション, プレゼン, スライド, 会議 資料, 投影資料, パワポ, 登壇 資料, "
-              "講演 資料",
+     .names = "発表 資料, プレゼンテーション, プレゼン, スライド, 投影資料, パワポ, 登壇 資料, 講演 資料",
      .cues = "発表",
      .weak = "",
      .markers = ""},
@@ -141,7 +140,7 @@ constexpr Base words[] = {
      .markers = ""},
     {.kind = DocumentKind::sales,
      .names = "営業 資料, 商談 資料, サービス 紹介, 会社 案内, 導入 事例, 料金表, 価格表, カタログ, "
-              "トーク スクリプト, 会社紹介",
+              "トーク スクリプト, 会社紹介, 製品紹介",
      .cues = "営業, 商談",
      .weak = "",
      .markers = ""},

@@ -31,7 +31,7 @@ constexpr auto rows = std::to_array<Shared>({
               "진행 요약, 구현 정리, 실험 결과, 実装まとめ, 実装結果, 作業報告, 対応結果, 検証結果, 测试结果, "
               "測試結果, 实现总结, 实施总结, 验证结果, 完成总结, 修复总结, 重构总结, 优化总结, trend, trends, "
               "추이, 動向, 趋势, 趨勢, 推移, 사용성 테스트 결과, 进展, 项目进展, 進捗, 進展, 감사 결과, "
-              "결과 보고, 결과보고, 복명서",
+              "결과 보고, 결과보고, 복명서, weekly status, project status, status update",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<report, codeReview, essay>,
@@ -86,7 +86,7 @@ constexpr auto rows = std::to_array<Shared>({
      .names = "안내, 이용 안내, 案内, ご案内, 说明, 説明, 說明, 안내 사항, 案内文, 须知, 須知, 温馨提示, 公示, "
               "通告, お願い, 通知書, 募集案内, 안내문, advisory, reminder, 통지문, 협조문, 전달 사항, "
               "학습 안내, 告家长书, 公函, 告知文, 案内状, 連絡 事項, 挨拶状, 講座 案内, 回覧板, 回覧, "
-              "important information",
+              "important information, 청첩장, 喜报, 告示",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<plan, checklist, userStories>,
@@ -97,12 +97,11 @@ constexpr auto rows = std::to_array<Shared>({
               "工程表, 근무표, 스케줄표, 액션 플랜, 마스터 플랜, 세부 추진 계획, shift schedule, 推进表, "
               "值班表, 时间安排, 日历, 排班表, 应急预案, 年間予定, シフト表, アクション プラン, 時間割, "
               "当番表, マイルストーン, 편성표, task breakdown, 작업 분해, 작업 목록, 작업 분류, タスク 分解, "
-              "任务分解, 任务拆解, run sheet, call sheet, run of show, 진행표, 진도표, 분장표, 업무 분장표, "
-              "당번표, 值日表, 行事予定, 予定, 安排表, 진행 계획표, 推广方案, 营销方案, 活动方案, 推廣方案, "
-              "行銷方案",
+              "任务分解, 任务拆解, run sheet, call sheet, 진행표, 진도표, 분장표, 업무 분장표, 당번표, 值日表, "
+              "行事予定, 予定, 安排表, 진행 계획표, 推广方案, 营销方案, 活动方案, 推廣方案, 行銷方案",
      .generics = "",
      .cues = ""},
-    {.kinds = anyOf<finance, report>,
+    {.kinds = anyOf<finance, businessPlan>,
      .names = "실적, 매출 전망, 예산 현황, 예산 집행 현황, 예산 계획, 지출 현황, 내역서, 연말 정산, 비용 분석, "
               "재무 보고서, 결산 보고서, 회계 보고서, financial report, financial analysis, earnings report, "
               "cost analysis, expense analysis, revenue report, 実績, 業績, 业绩, 決算報告, 财务报告, "
@@ -164,10 +163,10 @@ constexpr auto rows = std::to_array<Shared>({
     {.kinds = anyOf<memo, journal, resume>,
      .names = "brainstorm, brainstorming, brain dump, 생각 정리, 便条, 便條, 随手记, 灵感, 头脑风暴, 走り書き, "
               "覚え書き, 备忘, 備忘錄, アイデア, 伝言メモ, idea, 아이디어, 아이디어 노트, 便签, 便簽, 備忘録, "
-              "낙서, 끄적임, scratchpad, jottings, sticky note, note to self, 想法, 頭腦風暴, 随记, ネタ帳, "
-              "ひらめき, 随手笔记, 隨手筆記, 隨筆記, handoff note, handover note, session note, 세션 노트, "
-              "작업 메모, 作業メモ, 工作笔记, scratch note, rough note, loose note, 잡생각, 随想, 雑記, "
-              "电话记录, 電話記録, 電話記錄, 通話記録",
+              "낙서, 끄적임, scratchpad, jottings, sticky note, 想法, 頭腦風暴, 随记, ネタ帳, ひらめき, "
+              "随手笔记, 隨手筆記, 隨筆記, handoff note, handover note, session note, 세션 노트, 작업 메모, "
+              "作業メモ, 工作笔记, scratch note, rough note, loose note, 잡생각, 随想, 雑記, 电话记录, "
+              "電話記録, 電話記錄, 通話記録",
      .generics = "정리, 정리본, 요약, 요약본, 요약문, 요약 정리, 초고, 초벌, 의견, 노트, 기록, 기록지, 기록물, "
                  "결과, 내용, summary, summaries, notes, note, recap, takeaways, takeaway, records, record, "
                  "findings, variants, january, february, march, april, may, june, july, august, september, "

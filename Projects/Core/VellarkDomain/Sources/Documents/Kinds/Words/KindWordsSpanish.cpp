@@ -20,7 +20,7 @@ constexpr std::array<Layered, 55> words{{
     {DocumentKind::spec,
      "especificación, especificaciones, pliego de condiciones, requisitos, requerimientos, "
      "análisis de requisitos, análisis funcional, definición funcional, ficha técnica, "
-     "términos de referencia, fichas técnicas, documento de requisitos, pliego de, ers, pliego",
+     "términos de referencia, fichas técnicas, documento de requisitos, ers, pliego",
      ""},
     {DocumentKind::plan,
      "plan, planes, planificación, hoja de ruta, roadmap, cronograma, calendario, estrategia, "
@@ -145,7 +145,7 @@ constexpr std::array<Layered, 55> words{{
      "análisis financiero, informe de gastos, proyecciones financieras, declaración de la renta, "
      "liquidación, orden de compra, nota de crédito, nota de gastos, balance, cuenta de resultados, "
      "albarán, extracto bancario, estado financiero, gastos de viaje, estimación de costes, proforma, "
-     "libro de cuentas, estado de cuentas, facturas, presupuestos",
+     "libro de cuentas, estado de cuentas, facturas, presupuestos, gastos",
      ""},
     {DocumentKind::legal,
      "contrato, acuerdo, acuerdos, convenio, términos y condiciones, condiciones de uso, "
