@@ -191,7 +191,7 @@ constexpr std::array<Layered, 55> words{{
      ""},
     {DocumentKind::story,
      "cuento, relato, novela, microrrelato, poema, poesía, fábula, historia corta, "
-     "capítulo de la novela, letra de canción, sinopsis",
+     "capítulo de la novela, letra de canción, sinopsis, poemas",
      "historia, historias"},
     {DocumentKind::translation,
      "traducción, borrador de traducción, versión en inglés, versión en español, versión inglesa", ""},
@@ -240,8 +240,8 @@ constexpr std::array<Layered, 55> words{{
     {DocumentKind::paper,
      "tesis, tesina, trabajo de fin de grado, trabajo fin de grado, trabajo de fin de máster, "
      "trabajo fin de máster, trabajo de grado, trabajo de investigación, trabajo académico, tfg, tfm, "
-     "artículo científico, artículos científicos, artículo académico, artículo de investigación, "
-     "monografía, proyecto de investigación, marco teórico",
+     "artículo científico, artículo académico, artículo de investigación, monografía, "
+     "proyecto de investigación, marco teórico",
      ""},
     {DocumentKind::journal, "diario, mi diario, entrada de diario, entrada del diario, bitácora, reflexión personal",
      ""},
