@@ -94,8 +94,7 @@ constexpr Base words[] = {
      .weak = "",
      .markers = ""},
     {.kind = DocumentKind::postmortem,
-     .names = "故障报告, 事故报告, 故障复盘, 事故复盘, 故障复盘报告, 故障分析, 事故分析, 根因分析, 檢討報告, "
-              "事故報告",
+     .names = "故障报告, 事故报告, 故障复盘, 事故复盘, 故障复盘报告, 事故分析, 根因分析, 檢討報告, 事故報告",
      .cues = "故障, 事故",
      .weak = "",
      .markers = "影响范围, 改进措施"},
