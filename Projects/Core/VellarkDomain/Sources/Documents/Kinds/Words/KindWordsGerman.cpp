@@ -148,7 +148,7 @@ constexpr Layered words[] = {
               "antwort auf",
      .weak = "mail, mails, e-mail"},
     {.kind = DocumentKind::faq,
-     .nouns = "häufige fragen, häufig gestellte fragen, faq, fragen und antworten, q a",
+     .nouns = "häufige fragen, häufig gestellte fragen, faq, fragen und antworten, q a, faqs",
      .weak = ""},
     {.kind = DocumentKind::blogPost,
      .nouns = "blogbeitrag, blogpost, gastbeitrag, artikel, erfahrungsbericht, reisebericht, blog post",
@@ -164,7 +164,7 @@ constexpr Layered words[] = {
     {.kind = DocumentKind::story,
      .nouns = "kurzgeschichte, roman, märchen, erzählung, gedicht, fabel, liedtext",
      .weak = ""},
-    {.kind = DocumentKind::translation, .nouns = "übersetzung, englische fassung, lokalisierung", .weak = ""},
+    {.kind = DocumentKind::translation, .nouns = "übersetzung, englische fassung", .weak = ""},
     {.kind = DocumentKind::learning,
      .nouns = "lehrplan, unterrichtsmaterial, unterrichtsmaterialien, unterrichtsentwurf, unterrichtsplanung, "
               "schulungsunterlagen, kursunterlagen, modulhandbuch, stoffverteilungsplan, seminarplan, "

@@ -37,7 +37,9 @@ constexpr auto rows = std::to_array<Shared>({
               "근태현황, 중간보고, 최종보고, 현황보고, 활동보고, 상황보고, 진행보고, 완료보고, 분기보고, "
               "연간보고, 실적보고, 성과보고, 점검보고, 감사보고, 행사보고, 교육보고, 방문보고, 진척보고, "
               "데이터분석, 매출분석, 실적분석, 성과분석, 고객분석, 사용자분석, 로그분석, 트래픽분석, 현황분석, "
-              "성능분석, 위험분석, 효과분석, 통계분석, 리스크분석, 수익성분석",
+              "성능분석, 위험분석, 효과분석, 통계분석, 리스크분석, 수익성분석, migration summary, "
+              "refactoring summary, fix summary, session summary, update summary, audit summary, "
+              "analysis summary, performance summary, results summary, closeout summary",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<report, codeReview, essay>,
@@ -47,7 +49,7 @@ constexpr auto rows = std::to_array<Shared>({
     {.kinds = anyOf<prd, plan, design>,
      .names = "기획, 브리프, brief, 企画, 策划, 策劃, ブリーフ, コンセプト, 企划书, 企劃書, 策划案, 策划书, "
               "企画案, 企划案, 企劃案, 요구사항 정의, product vision, feature definition, プロダクト 要求書, "
-              "企画 概要書, mvp scope, scope document",
+              "企画 概要書, mvp scope, scope document, 产品规划, 产品方案, 产品需求書, 產品規劃",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<story, script, userStories>,
@@ -76,7 +78,8 @@ constexpr auto rows = std::to_array<Shared>({
               "课程, 課程, 教學計畫, 授業案, 講座, textbook, workbook, 활동지, 교육 프로그램, 실러버스, "
               "learning plan, teaching note, workshop outline, training manual, 課程大綱, 学习手册, 讲师手册, "
               "单元设计, 備課筆記, 备课笔记, 培训方案, 教学进度表, 教育 プログラム, 単元 計画, "
-              "研修 プログラム, 授業 プリント, 课程安排, 課程安排",
+              "研修 プログラム, 授業 プリント, 课程安排, 課程安排, workshop material, workshop materials, "
+              "class handout, 講座テキスト, 研修テキスト, 学習テキスト",
      .generics = "자료, materials, material, resources, resource, 資料, 资料, 素材",
      .cues = "과외, 부트캠프, 워크숍 자료, bootcamp, tutoring, 研修, 培训, 培訓"},
     {.kinds = anyOf<design, designDoc>,
@@ -85,7 +88,7 @@ constexpr auto rows = std::to_array<Shared>({
               "sitemap, user flow, journey map, 레이아웃, 프로토타입, 사용자 여정, 유저 플로우, プロトタイプ, "
               "原型图, 原型圖, 스케치, 무드보드, 화면 흐름도, 여정 지도, sketch, sketches, logo concept, "
               "交互稿, 草图, 草圖, 故事板, 情绪板, ロゴ案, ムード ボード, 完成 予想図, "
-              "カスタマー ジャーニー マップ, user persona, buyer persona, customer persona",
+              "カスタマー ジャーニー マップ, user persona, buyer persona, customer persona, ラフ, ラフスケッチ",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<notice, guide>,
@@ -95,7 +98,7 @@ constexpr auto rows = std::to_array<Shared>({
               "important information, 청첩장, 喜报, 告示, 휴무공지, 긴급공지, 점검공지, 행사공지, 일정공지, "
               "변경공지, 서비스공지, 전체공지, 입찰공고, 공모공고, 선정공고, 합격공고, 행사안내, 휴무안내, "
               "점검안내, 교육안내, 일정안내, 신청안내, 납부안내, 변경안내, 수강안내, 입학안내, 방문안내, "
-              "등록안내, 주차안내",
+              "등록안내, 주차안내, 掲示物",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<plan, checklist, userStories>,
@@ -187,7 +190,7 @@ constexpr auto rows = std::to_array<Shared>({
               "낙서, 끄적임, scratchpad, jottings, sticky note, 想法, 頭腦風暴, 随记, ネタ帳, ひらめき, "
               "随手笔记, 隨手筆記, 隨筆記, handoff note, handover note, session note, 세션 노트, 작업 메모, "
               "作業メモ, 工作笔记, scratch note, rough note, loose note, 잡생각, 随想, 雑記, 电话记录, "
-              "電話記録, 電話記錄, 通話記録",
+              "電話記録, 電話記錄, 通話記録, 草记",
      .generics = "정리, 정리본, 요약, 요약본, 요약문, 요약 정리, 초고, 초벌, 의견, 노트, 기록, 기록지, 기록물, "
                  "결과, 내용, summary, summaries, notes, note, recap, takeaways, takeaway, records, record, "
                  "findings, variants, january, february, march, april, may, june, july, august, september, "
