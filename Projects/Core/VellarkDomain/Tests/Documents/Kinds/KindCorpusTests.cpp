@@ -1,7 +1,10 @@
 #include "Documents/Kinds/KindCorpus.hpp"
 #include <VellarkDomain/Documents/Kinds/Classifier/DocumentKindClassifier.hpp>
+#include <VellarkDomain/Documents/Kinds/Rules/DocumentKindRules.hpp>
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 namespace vellark {
 namespace {
@@ -43,6 +46,34 @@ TEST(KindCorpus, knowsEachKindByItsOwnName) {
         const auto guess = DocumentKindClassifier::classify(evidence);
         ASSERT_TRUE(guess) << rawValue(kind);
         EXPECT_EQ(guess->candidates.front(), kind) << rawValue(kind);
+    }
+}
+
+std::optional<DocumentKind> kindOfTitle(std::string_view title) {
+    const auto guess = DocumentKindClassifier::classify({.title = std::string(title)});
+    return guess ? std::optional(guess->candidates.front()) : std::nullopt;
+}
+
+// No other word may hide it, outvote it or claim a part of it.
+TEST(KindCorpus, knowsEachNounByItself) {
+    for (const auto& row : DocumentKindRules::table()) {
+        for (const std::string_view name : row.names) {
+            EXPECT_EQ(kindOfTitle(name), row.kind) << name;
+        }
+    }
+    for (const DocumentKindLanguage language : allCases<DocumentKindLanguage>()) {
+        for (const auto& row : DocumentKindRules::words(language)) {
+            for (const std::string_view noun : row.nouns) {
+                if (DocumentKindRules::isEnglishHomograph(DocumentKindMatcher::normalize(noun))) continue;
+                EXPECT_EQ(kindOfTitle(noun), row.kind) << noun;
+            }
+        }
+    }
+    for (const auto& row : DocumentKindRules::shared()) {
+        for (const std::string_view name : row.names) {
+            const auto kind = kindOfTitle(name);
+            EXPECT_TRUE(kind && std::ranges::count(row.kinds, *kind) == 1) << name;
+        }
     }
 }
 
