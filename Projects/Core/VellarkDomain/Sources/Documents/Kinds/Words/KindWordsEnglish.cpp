@@ -249,8 +249,7 @@ constexpr auto rows = std::to_array<Base>({
      .weak = "",
      .markers = ""},
     {.kind = readingNotes,
-     .names = "reading log, book summary, book report, paper summary, paper note, article summary, "
-              "reading list, reading note",
+     .names = "reading log, book summary, book report, paper summary, paper note, reading list, reading note",
      .cues = "book, reading",
      .weak = "",
      .markers = ""},

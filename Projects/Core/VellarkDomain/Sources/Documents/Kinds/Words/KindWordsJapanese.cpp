@@ -26,7 +26,7 @@ constexpr Base words[] = {
      .weak = "予定",
      .markers = ""},
     {.kind = DocumentKind::userStories,
-     .names = "ユーザー ストーリー, ユース ケース, ユーザー ストーリー 一覧, 受け入れ 条件",
+     .names = "ユーザー ストーリー, ユース ケース, ユーザー ストーリー 一覧, 受け入れ 条件, 受入基準",
      .cues = "エピック",
      .weak = "",
      .markers = ""},
@@ -54,7 +54,7 @@ constexpr Base words[] = {
      .markers = "よかった点, 改善点, 学び"},
     {.kind = DocumentKind::checklist,
      .names = "チェック リスト, 確認 事項, やること リスト, タスク リスト, 買い物 リスト, 持ち物 リスト, "
-              "チェック シート, 確認項目 一覧, todo リスト, 点検表",
+              "チェック シート, 確認項目 一覧, 点検表, 確認 リスト, todoリスト",
      .cues = "点検, 持ち物, 準備",
      .weak = "タスク, やること",
      .markers = ""},
@@ -65,7 +65,8 @@ constexpr Base words[] = {
      .markers = ""},
     {.kind = DocumentKind::memo, .names = "メモ", .cues = "引き継ぎ", .weak = "控え", .markers = ""},
     {.kind = DocumentKind::presentation,
-     .names = "発表 資料, プレゼンテーション, プレゼン, スライド, 投影資料, パワポ, 登壇 資料, 講演 資料",
+     .names = "発表 資料, プレゼンテーション, プレゼン, スライド, 投影資料, パワポ, 登壇 資料, 講演 資料, "
+              "説明会 資料",
      .cues = "発表",
      .weak = "",
      .markers = ""},
@@ -83,7 +84,7 @@ constexpr Base words[] = {
      .markers = ""},
     {.kind = DocumentKind::testPlan,
      .names = "テスト 計画, テスト 計画書, テスト 仕様書, テスト ケース, テスト 項目, テスト シナリオ, "
-              "テスト 項目書, 試験項目書, テスト ケース 一覧, qa シナリオ",
+              "試験項目書, テスト ケース 一覧, qa シナリオ",
      .cues = "結合テスト",
      .weak = "",
      .markers = ""},
@@ -133,8 +134,8 @@ constexpr Base words[] = {
      .weak = "",
      .markers = ""},
     {.kind = DocumentKind::marketingCopy,
-     .names = "キャッチ コピー, 広告文, 広告 コピー, ランディング ページ, チラシ, 宣伝文, 紹介文, スローガン, "
-              "パンフレット",
+     .names = "キャッチ コピー, 広告文, 広告 コピー, チラシ, 宣伝文, 紹介文, スローガン, パンフレット, "
+              "商品 説明文",
      .cues = "広告",
      .weak = "",
      .markers = ""},
@@ -189,7 +190,7 @@ constexpr Base words[] = {
      .markers = "応募資格, 仕事内容, 福利厚生"},
     {.kind = DocumentKind::email,
      .names = "メール 文面, メール文, 手紙, 礼状, 案内 メール, お詫び メール, 謝罪 メール, 送付状, 謝罪文, "
-              "返信, お礼 メール",
+              "返信, お礼 メール, お詫び状",
      .cues = "返信, お礼, 依頼, お詫び",
      .weak = "メール",
      .markers = "拝啓, お世話になっております, 件名, よろしくお願い"},
@@ -225,7 +226,7 @@ constexpr Base words[] = {
      .weak = "",
      .markers = ""},
     {.kind = DocumentKind::lectureNotes,
-     .names = "講義 ノート, 講義 メモ, 授業 ノート, セミナー メモ",
+     .names = "講義 ノート, 講義 メモ, 授業 ノート, セミナー メモ, 授業 メモ",
      .cues = "講義, セミナー, ゼミ",
      .weak = "",
      .markers = ""},
