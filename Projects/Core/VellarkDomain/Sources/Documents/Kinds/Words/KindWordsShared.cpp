@@ -39,7 +39,8 @@ constexpr auto rows = std::to_array<Shared>({
               "데이터분석, 매출분석, 실적분석, 성과분석, 고객분석, 사용자분석, 로그분석, 트래픽분석, 현황분석, "
               "성능분석, 위험분석, 효과분석, 통계분석, 리스크분석, 수익성분석, migration summary, "
               "refactoring summary, fix summary, session summary, update summary, audit summary, "
-              "analysis summary, performance summary, results summary, closeout summary",
+              "analysis summary, performance summary, results summary, closeout summary, 活动总结, 培训总结, "
+              "学期总结, 半年总结, 实习总结",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<report, codeReview, essay>,
@@ -49,7 +50,8 @@ constexpr auto rows = std::to_array<Shared>({
     {.kinds = anyOf<prd, plan, design>,
      .names = "기획, 브리프, brief, 企画, 策划, 策劃, ブリーフ, コンセプト, 企划书, 企劃書, 策划案, 策划书, "
               "企画案, 企划案, 企劃案, 요구사항 정의, product vision, feature definition, プロダクト 要求書, "
-              "企画 概要書, mvp scope, scope document, 产品规划, 产品方案, 产品需求書, 產品規劃",
+              "企画 概要書, mvp scope, scope document, 产品规划, 产品方案, 产品需求書, 產品規劃, 产品需求, "
+              "产品方案书",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<story, script, userStories>,
@@ -120,7 +122,7 @@ constexpr auto rows = std::to_array<Shared>({
               "수행계획, 복구계획, 마이그레이션계획, 주간일정, 월간일정, 연간일정, 행사일정, 회의일정, "
               "개발일정, 출시일정, 배포일정, 촬영일정, 시험일정, 공사일정, 교육일정, 수업일정, 학사일정, "
               "방학일정, 프로젝트일정, 업무일정, 공연일정, 마케팅전략, 영업전략, 판매전략, 홍보전략, "
-              "브랜드전략, 콘텐츠전략, 가격전략, 제품전략, 진출전략, 데이터전략, 채용전략",
+              "브랜드전략, 콘텐츠전략, 가격전략, 제품전략, 진출전략, 데이터전략, 채용전략, 发展战略, 营销战略",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<finance, businessPlan>,
