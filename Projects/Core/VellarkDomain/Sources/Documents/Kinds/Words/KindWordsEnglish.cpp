@@ -50,9 +50,9 @@ constexpr auto rows = std::to_array<Base>({
      .weak = "update, snapshot",
      .markers = "this week, next week, blocker"},
     {.kind = research,
-     .names = "research, survey, research report, survey report, competitive analysis, competitor analysis, "
-              "market analysis, literature review, case study, comparison, feasibility study, user interview, "
-              "questionnaire, swot analysis, interviews, survey analysis, synthesis, usability study",
+     .names = "research, survey, research report, competitive analysis, competitor analysis, market analysis, "
+              "literature review, case study, comparison, feasibility study, user interview, questionnaire, "
+              "swot analysis, interviews, survey analysis, synthesis, usability study",
      .cues = "research, market, competitor, competitive, survey, interview, industry",
      .weak = "landscape, trend, findings",
      .markers = "respondent, sample size, survey, interview"},
@@ -140,8 +140,8 @@ constexpr auto rows = std::to_array<Base>({
      .weak = "screen, flow",
      .markers = ""},
     {.kind = designSystem,
-     .names = "brand book, brand guide, brand guideline, design guideline, component library, ui kit, "
-              "style guides, design systems, component guideline",
+     .names = "brand book, brand guide, brand guideline, component library, ui kit, style guides, "
+              "design systems, component guideline",
      .cues = "brand, component",
      .weak = "",
      .markers = "typography"},
@@ -152,8 +152,8 @@ constexpr auto rows = std::to_array<Base>({
      .weak = "",
      .markers = ""},
     {.kind = sales,
-     .names = "sales pitch, sales script, price list, pricing, catalog, success story, call script, rate card, "
-              "product sheet, one sheet, sales",
+     .names = "sales pitch, sales script, price list, pricing, catalog, call script, rate card, product sheet, "
+              "one sheet, sales",
      .cues = "sales, customer",
      .weak = "pitch, leads",
      .markers = ""},
@@ -179,7 +179,8 @@ constexpr auto rows = std::to_array<Base>({
      .weak = "",
      .markers = "market analysis, management team, break even"},
     {.kind = finance,
-     .names = "invoice, quote, estimate, expense, receipt, purchase order, payroll, ledger, finance",
+     .names = "invoice, quote, estimate, expense, receipt, purchase order, payroll, ledger, finance, "
+              "expense report, balance sheet",
      .cues = "financial, revenue, expense, tax",
      .weak = "bill",
      .markers = "subtotal, vat, total"},
@@ -253,7 +254,11 @@ constexpr auto rows = std::to_array<Base>({
      .cues = "book, reading",
      .weak = "",
      .markers = ""},
-    {.kind = exercises, .names = "exercise, homework, assignment", .cues = "", .weak = "", .markers = ""},
+    {.kind = exercises,
+     .names = "exercise, homework, assignment, worksheet, problem set",
+     .cues = "",
+     .weak = "",
+     .markers = ""},
     {.kind = solutions,
      .names = "solution, answer key, answer, solution manual, marking scheme, worked example, mark scheme",
      .cues = "",

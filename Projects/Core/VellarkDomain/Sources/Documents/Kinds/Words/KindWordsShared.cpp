@@ -31,16 +31,16 @@ constexpr auto rows = std::to_array<Shared>({
               "진행 요약, 구현 정리, 실험 결과, 実装まとめ, 実装結果, 作業報告, 対応結果, 検証結果, 测试结果, "
               "測試結果, 实现总结, 实施总结, 验证结果, 完成总结, 修复总结, 重构总结, 优化总结, trend, trends, "
               "추이, 動向, 趋势, 趨勢, 推移, 사용성 테스트 결과, 进展, 项目进展, 進捗, 進展, 감사 결과, "
-              "결과 보고, 결과보고, 복명서, weekly status, project status, status update, 판매현황, 업무현황, "
-              "운영현황, 진행현황, 추진현황, 처리현황, 공정현황, 채용현황, 이용현황, 접수현황, 민원현황, "
-              "교육현황, 참여현황, 진척현황, 개발현황, 준비현황, 생산현황, 납품현황, 계약현황, 수주현황, "
-              "근태현황, 중간보고, 최종보고, 현황보고, 활동보고, 상황보고, 진행보고, 완료보고, 분기보고, "
-              "연간보고, 실적보고, 성과보고, 점검보고, 감사보고, 행사보고, 교육보고, 방문보고, 진척보고, "
-              "데이터분석, 매출분석, 실적분석, 성과분석, 고객분석, 사용자분석, 로그분석, 트래픽분석, 현황분석, "
-              "성능분석, 위험분석, 효과분석, 통계분석, 리스크분석, 수익성분석, migration summary, "
-              "refactoring summary, fix summary, session summary, update summary, audit summary, "
-              "analysis summary, performance summary, results summary, closeout summary, 活动总结, 培训总结, "
-              "学期总结, 半年总结, 实习总结",
+              "복명서, weekly status, project status, status update, 판매현황, 업무현황, 운영현황, 진행현황, "
+              "추진현황, 처리현황, 공정현황, 채용현황, 이용현황, 접수현황, 민원현황, 교육현황, 참여현황, "
+              "진척현황, 개발현황, 준비현황, 생산현황, 납품현황, 계약현황, 수주현황, 근태현황, 중간보고, "
+              "최종보고, 현황보고, 활동보고, 상황보고, 진행보고, 완료보고, 분기보고, 연간보고, 실적보고, "
+              "성과보고, 점검보고, 감사보고, 행사보고, 교육보고, 방문보고, 진척보고, 데이터분석, 매출분석, "
+              "실적분석, 성과분석, 고객분석, 사용자분석, 로그분석, 트래픽분석, 현황분석, 성능분석, 위험분석, "
+              "효과분석, 통계분석, 리스크분석, 수익성분석, migration summary, refactoring summary, "
+              "fix summary, session summary, update summary, audit summary, analysis summary, "
+              "performance summary, results summary, closeout summary, 活动总结, 培训总结, 学期总结, 半年总结, "
+              "实习总结",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<report, codeReview, essay>,
@@ -64,20 +64,20 @@ constexpr auto rows = std::to_array<Shared>({
      .cues = ""},
     {.kinds = anyOf<exercises, quiz, bugReport>,
      .names = "문제, 문항, 問題, 题目, 題目, 試題, 试题, 设问, 設問, 기출 문제, practice problem, "
-              "practice question, question bank, review question, 練習 問題, 演習 問題, 過去問, 確認 問題, "
-              "練習題, 练习题, 练习卷, 練習卷, 真题, 真題, 课后题, 思考题, 题库, 題庫, 章末問題, 练习, 练习册, "
-              "習題, 練習冊, 練習, 課題, worksheet, problem set, drill, 연습 문제, 문제지, 예제, "
-              "練習 プリント, 习题集, 習題集, 워크시트, 예상 문제, 문제은행, practice sheet, 应用题, 應用題, "
-              "演習, 計算 プリント, 例題, 演習 課題, 宿題 プリント, 口算题卡, 口算题, 학습지",
+              "practice question, question bank, review question, 演習 問題, 過去問, 確認 問題, 練習題, "
+              "练习卷, 練習卷, 真题, 真題, 课后题, 思考题, 题库, 題庫, 章末問題, 练习, 练习册, 習題, 練習冊, "
+              "練習, 課題, drill, 문제지, 예제, 練習 プリント, 習題集, 워크시트, 예상 문제, 문제은행, "
+              "practice sheet, 应用题, 應用題, 演習, 計算 プリント, 例題, 演習 課題, 宿題 プリント, 口算题卡, "
+              "口算题, 학습지",
      .generics = "",
      .cues = "practice, mock, final, placement, entrance, driving, spelling, semester, certification, "
              "licence, license, pub"},
     {.kinds = anyOf<learning, lectureNotes>,
      .names = "강의 자료, 강좌, 온라인 강의, 교육 계획서, 학습 계획서, learning path, training plan, "
               "수업 자료, 강의 슬라이드, 유인물, lecture slide, lecture material, class material, handout, "
-              "講義資料, 授業資料, 課件, 课件, 配布資料, 講義, 교재, 교육 자료, 강의안, course material, "
-              "training material, 研修 資料, 培训材料, 培训资料, 教材, 学案, 學案, 说课稿, 教学方案, 教學方案, "
-              "课程, 課程, 教學計畫, 授業案, 講座, textbook, workbook, 활동지, 교육 프로그램, 실러버스, "
+              "講義資料, 授業資料, 課件, 课件, 配布資料, 講義, 교재, 강의안, course material, "
+              "training material, 研修 資料, 培训材料, 培训资料, 学案, 學案, 说课稿, 教学方案, 教學方案, 课程, "
+              "課程, 教學計畫, 授業案, 講座, textbook, workbook, 활동지, 교육 프로그램, 실러버스, "
               "learning plan, teaching note, workshop outline, training manual, 課程大綱, 学习手册, 讲师手册, "
               "单元设计, 備課筆記, 备课笔记, 培训方案, 教学进度表, 教育 プログラム, 単元 計画, "
               "研修 プログラム, 授業 プリント, 课程安排, 課程安排, workshop material, workshop materials, "
@@ -130,15 +130,15 @@ constexpr auto rows = std::to_array<Shared>({
               "재무 보고서, 결산 보고서, 회계 보고서, financial report, financial analysis, earnings report, "
               "cost analysis, expense analysis, revenue report, 実績, 業績, 业绩, 決算報告, 财务报告, "
               "財務報告, 재무제표, 손익 계산서, 결산, 결산서, 지출 내역, 정산 내역, financial statement, "
-              "balance sheet, income statement, cash flow, profit and loss, p l, expense report, forecast, "
-              "cost breakdown, 決算書, 収支 報告書, 損益 計算書, 貸借対照表, 财务报表, 財務報表, 资产负债表, "
-              "資產負債表, 利润表, 損益表, 现金流量表, 收支表, 费用明细, 決算, 决算, 结算单, 結算單, 工资表, "
-              "薪資表, 对账单, 對帳單, 精算書, 明細書, 資金繰り表, financial plan, financial model, 재무 계획, "
-              "경비 내역, 회비 내역, 거래 내역, 매출 현황, 원가 계산서, 자금 계획, 발주서, tax return, "
-              "bank statement, billing summary, pay stub, financial projection, credit note, 工资条, 收支明细, "
-              "估价单, 成本核算表, 付款申请单, 采购订单, 流水账, 记账本, 予算書, 収支表, 発注書, 給与明細, "
-              "納品書, 売上 予測, 振込 依頼書, 会計 報告, 収支 計画, 経費 精算, 決算 報告, 账本, 家庭账本, "
-              "帳本, p l statement, 收支明細, 収支 報告, profit and loss statement, 발행 내역, 결제 내역, "
+              "income statement, cash flow, profit and loss, p l, forecast, cost breakdown, 決算書, "
+              "収支 報告書, 損益 計算書, 貸借対照表, 財務報表, 资产负债表, 資產負債表, 利润表, 損益表, "
+              "现金流量表, 收支表, 费用明细, 決算, 决算, 结算单, 結算單, 工资表, 薪資表, 对账单, 對帳單, "
+              "精算書, 明細書, 資金繰り表, financial plan, financial model, 재무 계획, 경비 내역, 회비 내역, "
+              "거래 내역, 매출 현황, 원가 계산서, 자금 계획, 발주서, tax return, bank statement, "
+              "billing summary, pay stub, financial projection, credit note, 工资条, 收支明细, 估价单, "
+              "成本核算表, 付款申请单, 采购订单, 流水账, 记账本, 予算書, 収支表, 発注書, 給与明細, 納品書, "
+              "売上 予測, 振込 依頼書, 会計 報告, 収支 計画, 経費 精算, 決算 報告, 账本, 家庭账本, 帳本, "
+              "p l statement, 收支明細, 収支 報告, profit and loss statement, 발행 내역, 결제 내역, "
               "입출금 내역, 사용 내역, 발행 목록, 报销明细, 收據, 费用报销单, 報銷單, 월급 명세서, quotation, "
               "发票明细, 결산 내역, 예산 내역, 회비 정산, 비용정산, 출장정산, 경비정산, 여행정산, 급여정산, "
               "연간예산, 사업예산, 행사예산, 부서예산, 프로젝트예산, 여행예산, 급여대장, 매출전표, 월말결산, "
@@ -164,12 +164,11 @@ constexpr auto rows = std::to_array<Shared>({
               "exam review, formula sheet, 単語帳, 暗記カード, 考点, 单词表, 單字表, 词汇表, 复习资料, "
               "複習資料, 重點整理, 背诵, 知识总结, 自习笔记, 自習 ノート, まとめ ノート, 要点 まとめ, "
               "暗記 ノート, til, learning log, learning note, 개념 정리, 핵심 정리, 요점 정리, 요약 노트, "
-              "배운 내용, 知识点, 复习提纲, 複習提綱, 중간고사 정리, 기말고사 정리, 시험 정리, "
-              "중간고사 요약 정리, 기말고사 요약 정리, 시험 요약 정리, 중간고사 대비, 기말고사 대비, "
-              "시험 범위 정리, 암기 노트, 마인드맵, 공식 정리, 용어 정리, 핵심 요약, mind map, concept map, "
-              "cheat note, 考试重点, 思维导图, 心智圖, 公式汇总, 自学笔记, 考研笔记, 試験 対策, 公式集, "
-              "用語集, マインド マップ, テスト 対策, 考前重点, 暗記まとめ, 暗記, 备考笔记, 备考资料, 備考筆記, "
-              "요약정리본, 対策 プリント",
+              "배운 내용, 复习提纲, 複習提綱, 중간고사 정리, 기말고사 정리, 시험 정리, 중간고사 요약 정리, "
+              "기말고사 요약 정리, 시험 요약 정리, 중간고사 대비, 기말고사 대비, 시험 범위 정리, 암기 노트, "
+              "마인드맵, 공식 정리, 용어 정리, 핵심 요약, mind map, concept map, cheat note, 考试重点, "
+              "思维导图, 心智圖, 公式汇总, 自学笔记, 考研笔记, 試験 対策, 公式集, 用語集, マインド マップ, "
+              "テスト 対策, 考前重点, 暗記まとめ, 暗記, 备考笔记, 备考资料, 備考筆記, 요약정리본, 対策 プリント",
      .generics = "",
      .cues = "시험, 중간고사, 기말고사, 중간, 기말, 단원, 수학, 영어, 국어, 과학, 물리, 화학, 생물, 지구과학, "
              "한국사, 세계사, 역사, 사회, 경제학, 심리학, 통계학, 미적분, 선형대수, 문법, 영문법, 단어, 어휘, "
