@@ -52,7 +52,7 @@ constexpr auto rows = std::to_array<Base>({
     {.kind = research,
      .names = "research, survey, research report, competitive analysis, competitor analysis, market analysis, "
               "literature review, case study, comparison, feasibility study, user interview, questionnaire, "
-              "swot analysis, interviews, survey analysis, synthesis, usability study",
+              "swot analysis, interviews, survey analysis, usability study, interview synthesis",
      .cues = "research, market, competitor, competitive, survey, interview, industry",
      .weak = "landscape, trend, findings",
      .markers = "respondent, sample size, survey, interview"},

@@ -91,7 +91,7 @@ constexpr auto rows = std::to_array<Shared>({
               "sitemap, user flow, journey map, 레이아웃, 프로토타입, 사용자 여정, 유저 플로우, プロトタイプ, "
               "原型图, 原型圖, 스케치, 무드보드, 화면 흐름도, 여정 지도, sketch, sketches, logo concept, "
               "交互稿, 草图, 草圖, 故事板, 情绪板, ロゴ案, ムード ボード, 完成 予想図, "
-              "カスタマー ジャーニー マップ, user persona, buyer persona, customer persona, ラフ, ラフスケッチ",
+              "カスタマー ジャーニー マップ, user persona, buyer persona, customer persona, ラフスケッチ",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<notice, guide>,
