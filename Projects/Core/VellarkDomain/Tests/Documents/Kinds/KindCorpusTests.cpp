@@ -24,10 +24,10 @@ std::string joined(const std::vector<std::string>& lines) {
 // without phrases of the opening.
 TEST(KindCorpus, isClassifiedAsPromised) {
     constexpr double mostDecidedWithoutKind = 3;
-    constexpr double fewestDocumentsRight = 78;
-    const std::map<std::string, double> fewest = {{"de", 95}, {"en", 91}, {"es", 96}, {"fr", 93},
-                                                  {"ja", 85}, {"ko", 93}, {"mn", 89}, {"ru", 95},
-                                                  {"th", 94}, {"vi", 95}, {"zh", 90}};
+    constexpr double fewestDocumentsRight = 81;
+    const std::map<std::string, double> fewest = {{"de", 95}, {"en", 91}, {"es", 97}, {"fr", 95},
+                                                  {"ja", 88}, {"ko", 94}, {"mn", 91}, {"ru", 96},
+                                                  {"th", 95}, {"vi", 96}, {"zh", 92}};
     testing::KindCorpus corpus(std::string(VELLARK_TEST_DATA) + "/Kinds");
     if (!corpus.run()) GTEST_SKIP() << "no titles in Tests/Data/Kinds";
     for (const auto& [language, score] : corpus.languages) {

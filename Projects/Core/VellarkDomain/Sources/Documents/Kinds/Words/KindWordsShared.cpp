@@ -3,6 +3,9 @@
 // so a row of generics lists a refinable kind only where it beats every cue of that group. Add an ambiguous word to the
 // row that has its kinds, and take it out of the lists of single kinds.
 //
+// A Korean noun of two syllables is not found at the end of a longer word, so the commonest words that end with one
+// stand here as they are written, without a blank ("매출현황", "연간계획").
+//
 // A generic word may also stand behind the noun that names a document ("worksheet, grade 5", "検査表 配布用"): what
 // says when, for whom, how many or in which state stands among the generics of memos for that reason.
 
