@@ -43,7 +43,7 @@ constexpr auto rows = std::to_array<Shared>({
               "효과분석, 통계분석, 리스크분석, 수익성분석, migration summary, refactoring summary, "
               "fix summary, session summary, update summary, audit summary, analysis summary, "
               "performance summary, results summary, closeout summary, 活动总结, 培训总结, 学期总结, 半年总结, "
-              "实习总结",
+              "实习总结, 주간리포트, 월간리포트, 분석리포트, 성과리포트, 일일리포트, 실적리포트, 리서치리포트",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<report, codeReview, essay>,
@@ -62,7 +62,8 @@ constexpr auto rows = std::to_array<Shared>({
               "synopsis, worldbuilding, character profile, あらすじ, プロット, 世界観, 剧情, 世界观, 人物小传, "
               "콩트, 팬픽, 우화, 동시, plot outline, character sheet, haiku, 小说大纲, 人物设定, 寓言, "
               "剧情大纲, 同人文, 登場人物表, 俳句, 二次創作, 昔話, 웹소설, 장편 소설, 판타지 소설, 现代诗, "
-              "現代詩, 自作诗, 시 모음, 자작시",
+              "現代詩, 自作诗, 시 모음, 자작시, 창작동화, 전래동화, 그림동화, 창작소설, 자작소설, 추리소설, "
+              "역사소설",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<exercises, quiz, bugReport>,
@@ -72,7 +73,8 @@ constexpr auto rows = std::to_array<Shared>({
               "練習, 課題, drill, 문제지, 예제, 練習 プリント, 習題集, 워크시트, 예상 문제, 문제은행, "
               "practice sheet, 应用题, 應用題, 演習, 計算 プリント, 例題, 演習 課題, 宿題 プリント, 口算题卡, "
               "口算题, 학습지, 算数 プリント, 漢字 プリント, 国語 プリント, 英語 プリント, わり算 プリント, "
-              "かけ算 プリント, 復習 プリント, 学習 プリント",
+              "かけ算 プリント, 復習 プリント, 学習 プリント, 수학숙제, 영어숙제, 국어숙제, 과학숙제, "
+              "방학숙제, 수학과제, 영어과제, 주차과제, 기말과제, 수행과제",
      .generics = "",
      .cues = "practice, mock, final, placement, entrance, driving, spelling, semester, certification, "
              "licence, license, pub"},
@@ -126,7 +128,9 @@ constexpr auto rows = std::to_array<Shared>({
               "수행계획, 복구계획, 마이그레이션계획, 주간일정, 월간일정, 연간일정, 행사일정, 회의일정, "
               "개발일정, 출시일정, 배포일정, 촬영일정, 시험일정, 공사일정, 교육일정, 수업일정, 학사일정, "
               "방학일정, 프로젝트일정, 업무일정, 공연일정, 마케팅전략, 영업전략, 판매전략, 홍보전략, "
-              "브랜드전략, 콘텐츠전략, 가격전략, 제품전략, 진출전략, 데이터전략, 채용전략, 发展战略, 营销战略",
+              "브랜드전략, 콘텐츠전략, 가격전략, 제품전략, 진출전략, 데이터전략, 채용전략, 发展战略, 营销战略, "
+              "개발로드맵, 제품로드맵, 기술로드맵, 서비스로드맵, 사업로드맵, 연간캘린더, 콘텐츠캘린더, "
+              "마케팅캘린더, 주간스케줄, 월간스케줄, 촬영스케줄",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<finance, businessPlan>,
@@ -277,7 +281,8 @@ constexpr auto rows = std::to_array<Shared>({
     {.kinds = anyOf<blogPost, socialPost, essay>,
      .names = "포스트, 게시글, 스레드, thread, スレッド, 후기, 체험기, 사용기, 방문기, 기고, post, write up, "
               "writeup, 記事, 文章, 帖子, 体験記, 기사, 아티클, 포스팅, 블로그 포스트, 体験談, 博文, listicle, "
-              "리뷰 글, 매거진 글, 经验贴, 社媒帖子, 食レポ, 旅行記, 여행기, 游记, 遊記",
+              "리뷰 글, 매거진 글, 经验贴, 社媒帖子, 食レポ, 旅行記, 여행기, 游记, 遊記, 여행후기, 사용후기, "
+              "구매후기, 방문후기, 체험후기, 합격후기, 수강후기",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<data, checklist>,
