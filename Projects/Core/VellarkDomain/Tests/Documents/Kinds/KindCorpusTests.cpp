@@ -25,7 +25,7 @@ std::string joined(const std::vector<std::string>& lines) {
 TEST(KindCorpus, isClassifiedAsPromised) {
     constexpr double mostDecidedWithoutKind = 3;
     constexpr double fewestDocumentsRight = 81;
-    const std::map<std::string, double> fewest = {{"de", 95}, {"en", 91}, {"es", 97}, {"fr", 95},
+    const std::map<std::string, double> fewest = {{"de", 95}, {"en", 90}, {"es", 97}, {"fr", 95},
                                                   {"ja", 88}, {"ko", 94}, {"mn", 91}, {"ru", 96},
                                                   {"th", 95}, {"vi", 96}, {"zh", 92}};
     testing::KindCorpus corpus(std::string(VELLARK_TEST_DATA) + "/Kinds");

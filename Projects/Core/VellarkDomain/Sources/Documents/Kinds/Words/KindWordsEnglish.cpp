@@ -51,8 +51,8 @@ constexpr auto rows = std::to_array<Base>({
      .markers = "this week, next week, blocker"},
     {.kind = research,
      .names = "research, survey, research report, competitive analysis, competitor analysis, market analysis, "
-              "literature review, case study, comparison, feasibility study, user interview, questionnaire, "
-              "swot analysis, interviews, survey analysis, usability study, interview synthesis",
+              "literature review, comparison, user interview, questionnaire, swot analysis, interviews, "
+              "survey analysis, interview synthesis, case studies, feasibility study, case study, market study",
      .cues = "research, market, competitor, competitive, survey, interview, industry",
      .weak = "landscape, trend, findings",
      .markers = "respondent, sample size, survey, interview"},
@@ -68,7 +68,7 @@ constexpr auto rows = std::to_array<Base>({
      .markers = ""},
     {.kind = proposal,
      .names = "proposal, rfp, bid, business case, grant application, tender, funding request, change request, "
-              "rfp response",
+              "rfp response, suggestion",
      .cues = "rfp, grant, sponsorship, request for proposal",
      .weak = "request, application, recommendation",
      .markers = ""},
@@ -149,7 +149,7 @@ constexpr auto rows = std::to_array<Base>({
      .markers = ""},
     {.kind = sales,
      .names = "sales pitch, sales script, price list, pricing, catalog, call script, rate card, product sheet, "
-              "one sheet, sales",
+              "one sheet, sales, offer",
      .cues = "sales, customer",
      .weak = "pitch, leads",
      .markers = ""},
@@ -182,7 +182,7 @@ constexpr auto rows = std::to_array<Base>({
      .markers = "subtotal, vat, total"},
     {.kind = legal,
      .names = "contract, agreement, terms, terms and conditions, license, licence, lease, sla, msa, mou, sow, "
-              "disclaimer, consent form, waiver, legal, bylaw",
+              "consent form, waiver, legal, bylaw, addendum",
      .cues = "legal, statement of work, patent, copyright",
      .weak = "conditions, statement",
      .markers = "governing law, confidentiality, termination, this agreement"},
@@ -229,7 +229,7 @@ constexpr auto rows = std::to_array<Base>({
      .cues = "novel, fiction",
      .weak = "chapter",
      .markers = ""},
-    {.kind = translation, .names = "translation, localization", .cues = "translated", .weak = "", .markers = ""},
+    {.kind = translation, .names = "translation", .cues = "translated", .weak = "", .markers = ""},
     {.kind = learning,
      .names = "lesson plan, unit plan, curriculum, course, study plan, lesson",
      .cues = "learning, training, course",
@@ -266,7 +266,8 @@ constexpr auto rows = std::to_array<Base>({
      .weak = "quiz, quizzes, exam, midterm, finals, test",
      .markers = "true or false, time allowed, point"},
     {.kind = errorNotes,
-     .names = "mistake log, wrong answer, mistake, error notebook, error note, mistake notebook, error log",
+     .names = "mistake log, wrong answer, mistake, error notebook, error note, mistake notebook, error log, "
+              "mistakes notebook",
      .cues = "",
      .weak = "",
      .markers = ""},

@@ -27,7 +27,7 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::userStories,
      .nouns = "user story, user stories, anwendungsfall, anwendungsfälle, akzeptanzkriterien, "
-              "nutzergeschichten, use case, use cases, anwendergeschichten, user storys, abnahmekriterien",
+              "nutzergeschichten, use case, use cases, anwendergeschichten, user storys",
      .weak = ""},
     {.kind = DocumentKind::meetingNotes,
      .nouns = "protokoll, besprechungsnotiz, besprechungsnotizen, gesprächsnotiz, tagesordnung, "
@@ -91,7 +91,7 @@ constexpr Layered words[] = {
     {.kind = DocumentKind::prompt, .nouns = "prompt, prompts, systemprompt, prompt-vorlage", .weak = ""},
     {.kind = DocumentKind::design,
      .nouns = "designentwurf, wireframe, wireframes, mockup, mockups, prototyp, logoentwurf, skizze, entwürfe, "
-              "ui-entwurf, persona",
+              "ui-entwurf, persona, personas",
      .weak = ""},
     {.kind = DocumentKind::designSystem,
      .nouns = "designsystem, design system, styleguide, gestaltungsrichtlinien, markenhandbuch, "

@@ -89,8 +89,8 @@ constexpr Base words[] = {
      .weak = "",
      .markers = ""},
     {.kind = DocumentKind::bugReport,
-     .names = "バグ 報告, バグ 報告書, バグ レポート, 不具合 報告, 不具合 報告書, 不具合, バグ票, 不具合票, "
-              "エラー 報告, 障害票, エラー, バグ",
+     .names = "バグ 報告, バグ レポート, 不具合 報告, 不具合 報告書, 不具合, バグ票, 不具合票, エラー 報告, "
+              "障害票, エラー, バグ",
      .cues = "エラー",
      .weak = "",
      .markers = "再現 手順, 実際の 動作, 期待する 動作"},
@@ -171,8 +171,8 @@ constexpr Base words[] = {
      .weak = "",
      .markers = ""},
     {.kind = DocumentKind::legal,
-     .names = "契約書, 規約, 覚書, 合意書, 同意書, 誓約書, 委任状, 定款, 遺言書, 借用書, 訴状, 免責 事項, "
-              "示談書, 内容証明",
+     .names = "契約書, 規約, 覚書, 同意書, 誓約書, 委任状, 定款, 遺言書, 借用書, 訴状, 免責 事項, 示談書, "
+              "内容証明",
      .cues = "法務",
      .weak = "",
      .markers = "甲, 乙, 本契約"},
@@ -183,7 +183,7 @@ constexpr Base words[] = {
      .markers = ""},
     {.kind = DocumentKind::notice, .names = "お知らせ, 告知, 招待状", .cues = "開催", .weak = "連絡", .markers = ""},
     {.kind = DocumentKind::jobPosting,
-     .names = "求人票, 求人, 募集 要項, 募集, 求人 情報, 求人 広告, 採用情報",
+     .names = "求人票, 求人, 募集 要項, 募集, 求人 広告, 採用情報",
      .cues = "採用, 応募",
      .weak = "",
      .markers = "応募資格, 仕事内容, 福利厚生"},

@@ -150,7 +150,7 @@ constexpr auto rows = std::to_array<Shared>({
               "입출금 내역, 사용 내역, 발행 목록, 报销明细, 收據, 费用报销单, 報銷單, 월급 명세서, quotation, "
               "发票明细, 결산 내역, 예산 내역, 회비 정산, 비용정산, 출장정산, 경비정산, 여행정산, 급여정산, "
               "연간예산, 사업예산, 행사예산, 부서예산, 프로젝트예산, 여행예산, 급여대장, 매출전표, 월말결산, "
-              "연간결산",
+              "연간결산, expense claim, claim form",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<businessPlan, presentation, sales, email>,
@@ -265,7 +265,7 @@ constexpr auto rows = std::to_array<Shared>({
               "training log, workout log, food log, sleep log, travel log, exercise log, running log, "
               "mood log, 手账, 手帳, 实习日志, diary entry, diary entries, 감사 일지, 그림 일기, 관찰일지, "
               "실습일지, 훈련일지, 독서일지, 근무일지, 학습일지, 당직일지, 현장일지, 다이어트일지, 독서일기, "
-              "여행일기, 관찰일기, 다이어트일기, 영어일기",
+              "여행일기, 관찰일기, 다이어트일기, 영어일기, dream log",
      .generics = "로그, logs, log, ログ",
      .cues = ""},
     {.kinds = anyOf<meetingNotes, retrospective>,
