@@ -86,8 +86,8 @@ constexpr auto rows = std::to_array<Base>({
      .weak = "diagram, decision, model",
      .markers = "context, decision, consequences, alternatives considered, alternative, trade off"},
     {.kind = apiDoc,
-     .names = "api, api doc, api documentation, api spec, api specification, api guide, endpoint, openapi, "
-              "swagger",
+     .names = "api, api documentation, api spec, api specification, api guide, endpoint, openapi, swagger, "
+              "api reference",
      .cues = "api, endpoint, graphql, webhook, sdk",
      .weak = "reference, contract",
      .markers = "request body, query parameter, bearer, get v"},
@@ -101,7 +101,7 @@ constexpr auto rows = std::to_array<Base>({
      .names = "bug, defect, defect report, issue report, crash report, known issue, error report",
      .cues = "bug, crash, error, defect",
      .weak = "issue, triage",
-     .markers = "steps to reproduce, to reproduce, expected behavior, actual behavior, actual result"},
+     .markers = "steps to reproduce, to reproduce, actual result, expected, actual"},
     {.kind = codeReview,
      .names = "pr review, pull request, merge request, review comment",
      .cues = "code, pr, refactoring, diff",
