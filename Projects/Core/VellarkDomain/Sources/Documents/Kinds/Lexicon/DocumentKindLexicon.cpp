@@ -15,12 +15,23 @@ using Role = DocumentKindTerm::Role;
 using Words = std::span<const std::string_view>;
 using Kinds = std::span<const DocumentKind>;
 
-std::u32string withoutJoiningBlanks(std::u32string_view pattern) {
-    std::u32string result;
-    for (std::size_t index = 0; index < pattern.size(); ++index) {
-        const bool joins = pattern[index] == U' ' && index > 0 && index + 1 < pattern.size() &&
-                           ScalarClasses::isJoining(pattern[index - 1]) && ScalarClasses::isJoining(pattern[index + 1]);
-        if (!joins) result += pattern[index];
+// A blank between two words of Korean, Japanese or Chinese, which are written side by side as well.
+bool isJoiningBlank(std::u32string_view pattern, std::size_t index) {
+    return pattern[index] == U' ' && index > 0 && index + 1 < pattern.size() &&
+           ScalarClasses::isJoining(pattern[index - 1]) && ScalarClasses::isJoining(pattern[index + 1]);
+}
+
+// Nothing where the pattern has no such blank.
+std::optional<std::u32string> withoutJoiningBlanks(std::u32string_view pattern) {
+    std::size_t index = pattern.find(U' ');
+    while (index < pattern.size() && !isJoiningBlank(pattern, index)) {
+        index = pattern.find(U' ', index + 1);
+    }
+    if (index >= pattern.size()) return std::nullopt;
+    std::u32string result(pattern.substr(0, index));
+    result.reserve(pattern.size());
+    for (; index < pattern.size(); ++index) {
+        if (!isJoiningBlank(pattern, index)) result += pattern[index];
     }
     return result;
 }
@@ -68,12 +79,11 @@ struct DocumentKindLexicon::Built {
     std::vector<bool> compound;
     std::vector<bool> suffixHead;
     std::vector<std::string> duplicates;
-    std::unordered_map<std::u32string, std::uint32_t> indices;
+
+    static constexpr std::size_t expected = 1U << 14;  // patterns; a power of two
 
     // The order of what follows fixes the indices of the patterns, by which equal claims are settled later.
     explicit Built(const DocumentKindVocabulary& vocabulary) {
-        constexpr std::size_t expected = 1U << 14;  // patterns
-        indices.reserve(expected);
         patterns.reserve(expected);
         terms.reserve(expected);
         for (const auto& row : vocabulary.shared) {
@@ -120,9 +130,9 @@ private:
             DocumentKindMatcher::normalize(word, normalized_);
             if (normalized_.empty()) continue;
             addTerm(word, indexOf(normalized_), role, kinds, origin);
-            if (normalized_.find(U' ') == normalized_.npos) continue;
-            const std::u32string joined = withoutJoiningBlanks(normalized_);
-            if (joined != normalized_) addTerm(word, indexOf(joined), role, kinds, origin);
+            if (const auto joined = withoutJoiningBlanks(normalized_)) {
+                addTerm(word, indexOf(*joined), role, kinds, origin);
+            }
         }
     }
 
@@ -148,16 +158,32 @@ private:
         }
     }
 
-    std::uint32_t indexOf(const std::u32string& pattern) {
-        const auto [place, isNew] = indices.try_emplace(pattern, static_cast<std::uint32_t>(patterns.size()));
-        if (isNew) {
-            patterns.push_back(pattern);
-            terms.emplace_back();
-            languages.emplace_back();
-            base.push_back(false);
-            compound.push_back(false);
+    std::uint32_t indexOf(std::u32string_view pattern) {
+        if (const std::uint32_t found = slots_[slotOf(pattern)]; found != freeSlot) return found;
+        const auto index = static_cast<std::uint32_t>(patterns.size());
+        patterns.emplace_back(pattern);
+        terms.emplace_back();
+        languages.emplace_back();
+        base.push_back(false);
+        compound.push_back(false);
+        if (2 * patterns.size() > slots_.size()) {
+            slots_.assign(2 * slots_.size(), freeSlot);
+            for (std::uint32_t one = 0; one < index; ++one) {
+                slots_[slotOf(patterns[one])] = one;
+            }
         }
-        return place->second;
+        slots_[slotOf(pattern)] = index;
+        return index;
+    }
+
+    // Where the index of a pattern stands, or would.
+    [[nodiscard]] std::size_t slotOf(std::u32string_view pattern) const {
+        const std::size_t mask = slots_.size() - 1;
+        std::size_t slot = std::hash<std::u32string_view>()(pattern) & mask;
+        while (slots_[slot] != freeSlot && patterns[slots_[slot]] != pattern) {
+            slot = (slot + 1) & mask;
+        }
+        return slot;
     }
 
     // A form in plain letters joins the word's own term only while it can mean nothing else.
@@ -196,9 +222,9 @@ private:
     }
 
     [[nodiscard]] bool meansOnly(const PlainForm& form) const {
-        const auto found = indices.find(form.pattern);
-        if (found == indices.end()) return true;
-        return std::ranges::all_of(terms[found->second], [&](const DocumentKindTerm& term) {
+        const std::uint32_t found = slots_[slotOf(form.pattern)];
+        if (found == freeSlot) return true;
+        return std::ranges::all_of(terms[found], [&](const DocumentKindTerm& term) {
             return term.role == form.role && term.kinds.size() == 1 && term.kinds.front() == form.kind;
         });
     }
@@ -215,7 +241,10 @@ private:
         }
     }
 
+    static constexpr std::uint32_t freeSlot = 0xFFFF'FFFF;
+
     std::u32string normalized_;
+    std::vector<std::uint32_t> slots_ = std::vector<std::uint32_t>(2 * expected, freeSlot);  // open addressing
 };
 
 DocumentKindLexicon::DocumentKindLexicon() : DocumentKindLexicon(DocumentKindRules::vocabulary()) {}
@@ -290,8 +319,7 @@ DocumentKindLexicon::Patterns DocumentKindLexicon::patterns() {
 std::vector<std::u32string> DocumentKindLexicon::variants(std::u32string_view pattern) {
     if (pattern.empty()) return {};
     std::vector<std::u32string> result{std::u32string(pattern)};
-    std::u32string joined = withoutJoiningBlanks(pattern);
-    if (joined != pattern) result.push_back(std::move(joined));
+    if (auto joined = withoutJoiningBlanks(pattern)) result.push_back(std::move(*joined));
     return result;
 }
 

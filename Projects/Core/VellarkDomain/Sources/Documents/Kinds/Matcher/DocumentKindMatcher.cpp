@@ -80,6 +80,7 @@ PrefixIndex DocumentKindMatcher::index(std::span<const std::u32string> patterns)
     std::vector<PrefixIndex::Code> codes;
     codes.reserve(size);  // keys hold views of it
     std::vector<PrefixIndex::Key> keys;
+    keys.reserve(2 * patterns.size());
     const auto add = [&](Set set, std::uint32_t pattern, auto first, auto last) {
         const std::size_t start = codes.size();
         for (; first != last; ++first) {
@@ -87,7 +88,7 @@ PrefixIndex DocumentKindMatcher::index(std::span<const std::u32string> patterns)
         }
         const auto added = std::span<const PrefixIndex::Code>(codes).subspan(start);
         // A value above U+10FFFF has no code; no text that is read holds one.
-        if (std::ranges::find(added, 0U) == added.end()) keys.push_back({set, added, pattern});
+        if (std::ranges::find(added, 0U) == added.end()) keys.emplace_back(set, added, pattern);
     };
     const auto noteStart = [&](char32_t scalar, std::size_t length, MatcherAlphabet::Entry flag) {
         alphabet_.set(scalar, length == 1 ? flag | MatcherAlphabet::isPattern : flag);
@@ -118,24 +119,20 @@ PrefixIndex DocumentKindMatcher::index(std::span<const std::u32string> patterns)
         }
     }
 
-    std::ranges::stable_sort(keys, [](const PrefixIndex::Key& left, const PrefixIndex::Key& right) {
-        return left.set != right.set ? left.set < right.set
-                                     : std::ranges::lexicographical_compare(left.codes, right.codes);
-    });
-    std::vector<PrefixIndex::Key> unique;
-    unique.reserve(keys.size());
+    std::ranges::sort(keys, PrefixIndex::Key::precedes);
+    auto kept = keys.begin();
     std::uint32_t last = noPattern;
     for (const PrefixIndex::Key& key : keys) {
-        if (!unique.empty() && unique.back().set == key.set && std::ranges::equal(unique.back().codes, key.codes)) {
+        if (kept != keys.begin() && kept[-1].finds(key)) {
             // The first set that holds a pattern holds all that equal it.
             traits_[last].hasEqual = true;
-            nextEqual_.try_emplace(last, key.value);
+            nextEqual_.try_emplace(last, key.value());
         } else {
-            unique.push_back(key);
+            *kept++ = key;
         }
-        last = key.value;
+        last = key.value();
     }
-    return PrefixIndex(unique);
+    return PrefixIndex({keys.begin(), kept});
 }
 
 /// One walk over a text.

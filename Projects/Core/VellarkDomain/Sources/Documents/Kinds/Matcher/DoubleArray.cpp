@@ -32,8 +32,10 @@ public:
     explicit DoubleArrayBuilder(DoubleArray& array) : array_(array) {}
 
     void build(std::span<const std::span<const Key>> tries) {
+        std::size_t keyCount = 0;
         std::size_t codes = 0;
         for (const auto& keys : tries) {
+            keyCount += keys.size();
             for (const Key& key : keys) {
                 codes += key.codes.size();
                 highestCode_ = std::max(highestCode_, std::ranges::max(key.codes));
@@ -41,6 +43,7 @@ public:
         }
         array_.codeBits_ = static_cast<unsigned>(std::bit_width(highestCode_ + 1));
         array_.codeMask_ = (Cell{1} << array_.codeBits_) - 1;
+        array_.tails_.reserve(2 * keyCount + codes);  // at most
         grow(tries.size() + 2 + codes / 4 + highestCode_);
         take(DoubleArray::none, array_.codeMask_);
         for (const auto& keys : tries) {

@@ -25,10 +25,29 @@ public:
 
     static constexpr std::uint32_t noValue = 0xFFFF'FFFF;
 
-    struct Key {
-        std::uint32_t set = 0;        ///< one of four, which have nothing in common
-        std::span<const Code> codes;  ///< not empty, each above 0
-        std::uint32_t value = 0;
+    /// What is looked for, and the value that it gives.
+    class Key {
+    public:
+        /// The set is one of four, which have nothing in common. There is a code, and each is above 0. Throws
+        /// std::length_error for one beyond the limit.
+        Key(std::uint32_t set, std::span<const Code> codes, std::uint32_t value);
+
+        [[nodiscard]] std::uint32_t set() const { return static_cast<std::uint32_t>(order_ >> setStart); }
+        [[nodiscard]] std::span<const Code> codes() const { return codes_; }
+        [[nodiscard]] std::uint32_t value() const { return value_; }
+
+        /// By set, then by codes, then by value.
+        [[nodiscard]] static bool precedes(const Key& left, const Key& right);
+
+        /// Whether set and codes are the same.
+        [[nodiscard]] bool finds(const Key& other) const;
+
+    private:
+        static constexpr unsigned setStart = 60;
+
+        std::uint64_t order_;  // set and first codes, from the highest bit, which settles nearly all comparisons
+        std::span<const Code> codes_;
+        std::uint32_t value_;
     };
 
     /// The beginning of a key, or a whole one: set, length and codes in one number, which is not 0.
@@ -43,8 +62,7 @@ public:
 
     PrefixIndex() = default;
 
-    /// Keys are sorted by set and codes, and none is twice in a set. Throws std::length_error beyond the limit of codes
-    /// and that of DoubleArray.
+    /// Keys are in order, and none is twice in a set. Throws std::length_error beyond the limit of DoubleArray.
     explicit PrefixIndex(std::span<const Key> keys);
 
     /// The first codes of a set at a place of a text, in all lengths.
