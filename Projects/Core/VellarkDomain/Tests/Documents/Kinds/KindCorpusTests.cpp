@@ -21,12 +21,13 @@ std::string joined(const std::vector<std::string>& lines) {
 // mended by these titles, and those of titles-offices.tsv were written by who mended the lists: fresh titles score up
 // to ten points lower, Japanese ones more. A title in English, Korean, Japanese or Chinese that ends with something
 // else than its kind ("Invoice 17 Brightline") is out of reach of words, and so are untitled documents in languages
-// without phrases of the opening.
+// without phrases of the opening. Phrases are few, and were chosen by how many documents they find that were left out
+// when choosing them, not by how many of these: half of the documents that only phrases tell, of the others nearly all.
 TEST(KindCorpus, isClassifiedAsPromised) {
     constexpr double mostDecidedWithoutKind = 3;
-    constexpr double fewestDocumentsRight = 81;
+    constexpr double fewestDocumentsRight = 76;
     const std::map<std::string, double> fewest = {{"de", 95}, {"en", 90}, {"es", 97}, {"fr", 95},
-                                                  {"ja", 88}, {"ko", 94}, {"mn", 91}, {"ru", 96},
+                                                  {"ja", 89}, {"ko", 94}, {"mn", 91}, {"ru", 96},
                                                   {"th", 95}, {"vi", 96}, {"zh", 92}};
     testing::KindCorpus corpus(std::string(VELLARK_TEST_DATA) + "/Kinds");
     if (!corpus.run()) GTEST_SKIP() << "no titles in Tests/Data/Kinds";

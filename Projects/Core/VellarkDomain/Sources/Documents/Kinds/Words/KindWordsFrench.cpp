@@ -41,8 +41,8 @@ constexpr Layered words[] = {
     {.kind = DocumentKind::research,
      .nouns = "étude, études, recherche, enquête, sondage, analyse concurrentielle, analyse de marché, veille, "
               "état de l'art, revue de littérature, revue de la littérature, questionnaire, "
-              "benchmark concurrentiel, synthèse des entretiens, résultats du sondage, résultats de l'enquête, "
-              "comparatif, analyse de la concurrence",
+              "benchmark concurrentiel, synthèse des entretiens, résultats du sondage, comparatif, "
+              "analyse de la concurrence",
      .weak = ""},
     {.kind = DocumentKind::retrospective,
      .nouns = "rétrospective, rétro, retour d'expérience, retours d'expérience, bilan de projet, bilan "
@@ -63,7 +63,7 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::presentation,
      .nouns = "présentation, diaporama, support de présentation, diapositives, exposé, soutenance, "
-              "support de réunion, présentations",
+              "présentations",
      .weak = ""},
     {.kind = DocumentKind::designDoc,
      .nouns = "document de conception, dossier de conception, conception, architecture technique, "
@@ -81,10 +81,12 @@ constexpr Layered words[] = {
               "pv de recette",
      .weak = ""},
     {.kind = DocumentKind::bugReport,
-     .nouns = "rapport de bug, rapport d'anomalie, fiche d'anomalie, signalement de bug, anomalie, bogue, "
+     .nouns = "rapport de bug, rapport d'anomalie, fiche d'anomalie, signalement de bug, anomalie, "
               "ticket d'incident",
      .weak = ""},
-    {.kind = DocumentKind::codeReview, .nouns = "revue de code, relecture de code, audit de code", .weak = ""},
+    {.kind = DocumentKind::codeReview,
+     .nouns = "revue de code, relecture de code, revue de pr, relecture de la pr",
+     .weak = ""},
     {.kind = DocumentKind::postmortem,
      .nouns = "post-mortem, postmortem, rapport d'incident, analyse d'incident, analyse des causes, "
               "analyse de cause racine, compte rendu d'incident, analyse post-incident",
@@ -107,7 +109,8 @@ constexpr Layered words[] = {
               "fichier clients, tableau",
      .weak = ""},
     {.kind = DocumentKind::prompt,
-     .nouns = "prompt, prompts, prompt système, bibliothèque de prompts, instructions pour l'agent",
+     .nouns = "prompt, prompts, prompt système, bibliothèque de prompts, instructions pour l'agent, "
+              "consignes pour l'ia",
      .weak = ""},
     {.kind = DocumentKind::design,
      .nouns = "maquette, maquettes, wireframe, wireframes, prototype interactif, parcours utilisateur, "
@@ -203,7 +206,7 @@ constexpr Layered words[] = {
      .nouns = "cours, support de cours, supports de cours, plan de cours, programme de formation, "
               "support de formation, plan de formation, module de formation, formation, formations, "
               "séquence pédagogique, fiche pédagogique, fiche de préparation, leçon, leçons, "
-              "livret de formation, progression annuelle",
+              "livret de formation, progression annuelle, séquence",
      .weak = ""},
     {.kind = DocumentKind::lectureNotes,
      .nouns = "notes de cours, prise de notes, notes de conférence, notes de séminaire, polycopié, "
@@ -229,9 +232,9 @@ constexpr Layered words[] = {
               "correction de l'examen, correction exercice",
      .weak = ""},
     {.kind = DocumentKind::quiz,
-     .nouns = "qcm, sujet d'examen, devoir surveillé, interrogation, contrôle de connaissances, épreuve, "
-              "épreuves, partiel, bac blanc, dictée, sujet de bac, contrôle de mathématiques, "
-              "contrôle continu, contrôle chapitre, examens",
+     .nouns = "qcm, sujet d'examen, devoir surveillé, interrogation, épreuve, épreuves, partiel, bac blanc, "
+              "dictée, sujet de bac, contrôle de mathématiques, contrôle continu, contrôle chapitre, examens, "
+              "interro",
      .weak = "quiz, examen, examens, contrôle, contrôles"},
     {.kind = DocumentKind::errorNotes,
      .nouns = "cahier d'erreurs, cahier des erreurs, carnet d'erreurs, analyse des erreurs, relevé d'erreurs, "

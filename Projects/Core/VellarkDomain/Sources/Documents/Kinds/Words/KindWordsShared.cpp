@@ -43,7 +43,11 @@ constexpr auto rows = std::to_array<Shared>({
               "효과분석, 통계분석, 리스크분석, 수익성분석, migration summary, refactoring summary, "
               "fix summary, session summary, update summary, audit summary, analysis summary, "
               "performance summary, results summary, closeout summary, 活动总结, 培训总结, 学期总结, 半年总结, "
-              "实习总结, 주간리포트, 월간리포트, 분석리포트, 성과리포트, 일일리포트, 실적리포트, 리서치리포트",
+              "实习总结, 주간리포트, 월간리포트, 분석리포트, 성과리포트, 일일리포트, 실적리포트, 리서치리포트, "
+              "情況說明, 專案總結, 季度總結, 月度總結, 階段總結, 驗證結果, 重構總結, 優化總結, 專案進展, "
+              "專案進度, 活動總結, 培訓總結, 學期總結, 實習總結, 季报, 年报, 季報, 年報, 진행 상황, "
+              "business review, 주간 업무 보고, 출장 보고, 일일 보고, 월간 보고, 工作总结, 年终总结, 年終總結, "
+              "日报, 月报, 月報表, 掃描結果, 扫描结果",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<report, codeReview, essay>,
@@ -54,7 +58,7 @@ constexpr auto rows = std::to_array<Shared>({
      .names = "기획, 브리프, brief, 企画, 策划, 策劃, ブリーフ, コンセプト, 企划书, 企劃書, 策划案, 策划书, "
               "企画案, 企划案, 企劃案, 요구사항 정의, product vision, feature definition, プロダクト 要求書, "
               "企画 概要書, mvp scope, scope document, 产品规划, 产品方案, 产品需求書, 產品規劃, 产品需求, "
-              "产品方案书",
+              "产品方案书, 產品方案, 產品企劃, 策劃案, 策劃書, 功能規劃",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<story, script, userStories>,
@@ -63,7 +67,9 @@ constexpr auto rows = std::to_array<Shared>({
               "콩트, 팬픽, 우화, 동시, plot outline, character sheet, haiku, 小说大纲, 人物设定, 寓言, "
               "剧情大纲, 同人文, 登場人物表, 俳句, 二次創作, 昔話, 웹소설, 장편 소설, 판타지 소설, 现代诗, "
               "現代詩, 自作诗, 시 모음, 자작시, 창작동화, 전래동화, 그림동화, 창작소설, 자작소설, 추리소설, "
-              "역사소설",
+              "역사소설, 诗, 短篇, 劇情, 世界觀, 人物小傳, 小說大綱, 人物設定, 劇情大綱, 故事大綱, 极短篇, "
+              "極短篇, 短篇小說, ショート ショート, lyrics, fairy tale, fiction, 絵本, 歌詞, 童話, 단편 소설, "
+              "童話故事, 睡前故事",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<exercises, quiz, bugReport>,
@@ -74,7 +80,10 @@ constexpr auto rows = std::to_array<Shared>({
               "practice sheet, 应用题, 應用題, 演習, 計算 プリント, 例題, 演習 課題, 宿題 プリント, 口算题卡, "
               "口算题, 학습지, 算数 プリント, 漢字 プリント, 国語 プリント, 英語 プリント, わり算 プリント, "
               "かけ算 プリント, 復習 プリント, 学習 プリント, 수학숙제, 영어숙제, 국어숙제, 과학숙제, "
-              "방학숙제, 수학과제, 영어과제, 주차과제, 기말과제, 수행과제",
+              "방학숙제, 수학과제, 영어과제, 주차과제, 기말과제, 수행과제, 练习题, 作业单, 練習單, 练习单, "
+              "作業單, 課後題, 思考題, 課後練習, 课后练习, 回家作業, 家庭作业, 家庭作業, 寒假作业, 暑假作业, "
+              "寒假作業, 暑假作業, 數學作業, 英文作業, 國文作業, 數學習題, ドリル, 練習問題プリント, "
+              "問題プリント",
      .generics = "",
      .cues = "practice, mock, final, placement, entrance, driving, spelling, semester, certification, "
              "licence, license, pub"},
@@ -87,7 +96,11 @@ constexpr auto rows = std::to_array<Shared>({
               "learning plan, teaching note, workshop outline, training manual, 課程大綱, 学习手册, 讲师手册, "
               "单元设计, 備課筆記, 备课笔记, 培训方案, 教学进度表, 教育 プログラム, 単元 計画, "
               "研修 プログラム, 授業 プリント, 课程安排, 課程安排, workshop material, workshop materials, "
-              "class handout, 講座テキスト, 研修テキスト, 学習テキスト",
+              "class handout, 講座テキスト, 研修テキスト, 学習テキスト, 学习计划, 培训计划, 课程计划, "
+              "課程計畫, 學習計畫, 培訓計畫, 培訓資料, 培訓材料, 說課稿, 學習手冊, 講師手冊, 單元設計, "
+              "培訓方案, 教學進度表, 課程設計, 课程设计, 教學大綱, 教學設計, 学習 計画, 학습 자료, 교육 자료, "
+              "교육 과정, study plan, unit plan, 지도안, 교안, 과정안, course, lesson, 수업 계획, 강의 계획서, "
+              "수업 계획서, 학습 계획, 指導案, シラバス, 教学计划, 教学设计, 教学大纲",
      .generics = "자료, materials, material, resources, resource, 資料, 资料, 素材",
      .cues = "과외, 부트캠프, 워크숍 자료, bootcamp, tutoring, 研修, 培训, 培訓"},
     {.kinds = anyOf<design, designDoc>,
@@ -96,17 +109,22 @@ constexpr auto rows = std::to_array<Shared>({
               "sitemap, user flow, journey map, 레이아웃, 프로토타입, 사용자 여정, 유저 플로우, プロトタイプ, "
               "原型图, 原型圖, 스케치, 무드보드, 화면 흐름도, 여정 지도, sketch, sketches, logo concept, "
               "交互稿, 草图, 草圖, 故事板, 情绪板, ロゴ案, ムード ボード, 完成 予想図, "
-              "カスタマー ジャーニー マップ, user persona, buyer persona, customer persona, ラフスケッチ",
+              "カスタマー ジャーニー マップ, user persona, buyer persona, customer persona, ラフスケッチ, "
+              "视觉稿, 視覺稿, 效果圖, 情緒板, 介面稿, 手繪稿, 手绘稿, ペルソナ設定, 퍼소나, 线框图, 用户画像, "
+              "示意圖, 示意图, 人物誌, 使用者畫像",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<notice, guide>,
      .names = "안내, 이용 안내, 案内, ご案内, 说明, 説明, 說明, 안내 사항, 案内文, 须知, 須知, 温馨提示, 公示, "
               "通告, お願い, 通知書, 募集案内, 안내문, advisory, reminder, 통지문, 협조문, 전달 사항, "
-              "학습 안내, 告家长书, 公函, 告知文, 案内状, 連絡 事項, 挨拶状, 講座 案内, 回覧板, 回覧, "
+              "학습 안내, 告家长书, 公函, 告知文, 案内状, 連絡 事項, 講座 案内, 回覧板, 回覧, "
               "important information, 청첩장, 喜报, 告示, 휴무공지, 긴급공지, 점검공지, 행사공지, 일정공지, "
               "변경공지, 서비스공지, 전체공지, 입찰공고, 공모공고, 선정공고, 합격공고, 행사안내, 휴무안내, "
               "점검안내, 교육안내, 일정안내, 신청안내, 납부안내, 변경안내, 수강안내, 입학안내, 등록안내, "
-              "주차안내, 掲示物",
+              "주차안내, 掲示物, 邀请函, 邀請函, 溫馨提示, 告家長書, 喜報, 情況通報, 情况通报, "
+              "수강생 모집 공고, 참가자 모집 공고, 참여자 모집 공고, 입주자 모집 공고, 장학생 모집 공고, "
+              "서포터즈 모집 공고, 지원 모집 공고, 지원사업 모집 공고, 교육생 모집 공고, 회원 모집 공고, "
+              "참여 기업 모집 공고, 입주 기업 모집 공고, 사업 모집 공고, save the date",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<plan, checklist, userStories>,
@@ -130,7 +148,8 @@ constexpr auto rows = std::to_array<Shared>({
               "방학일정, 프로젝트일정, 업무일정, 공연일정, 마케팅전략, 영업전략, 판매전략, 홍보전략, "
               "브랜드전략, 콘텐츠전략, 가격전략, 제품전략, 진출전략, 데이터전략, 채용전략, 发展战略, 营销战略, "
               "개발로드맵, 제품로드맵, 기술로드맵, 서비스로드맵, 사업로드맵, 연간캘린더, 콘텐츠캘린더, "
-              "마케팅캘린더, 주간스케줄, 월간스케줄, 촬영스케줄",
+              "마케팅캘린더, 주간스케줄, 월간스케줄, 촬영스케줄, 時程表, 時程, 活動安排, 時間安排, 日曆, "
+              "行事曆, 應急預案, 任務分解, 任務拆解, 课表, 課表, 课程表, 課程表, 作息表, 作息時間表",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<finance, businessPlan>,
@@ -150,7 +169,11 @@ constexpr auto rows = std::to_array<Shared>({
               "입출금 내역, 사용 내역, 발행 목록, 报销明细, 收據, 费用报销单, 報銷單, 월급 명세서, quotation, "
               "发票明细, 결산 내역, 예산 내역, 회비 정산, 비용정산, 출장정산, 경비정산, 여행정산, 급여정산, "
               "연간예산, 사업예산, 행사예산, 부서예산, 프로젝트예산, 여행예산, 급여대장, 매출전표, 월말결산, "
-              "연간결산, expense claim, claim form",
+              "연간결산, expense claim, claim form, 帳單, 請款單, 请款单, 财务报表, 利潤表, 現金流量表, "
+              "費用明細, 薪資單, 工資單, 估價單, 付款申請單, 採購單, 流水帳, 記帳本, 報銷明細, 費用報銷單, "
+              "發票明細, 经费预算, 經費預算, 收据, 發票, 申告書, 明細, 精算, 注文書, 決算報告書, 가계부, "
+              "지출 결의서, 급여 명세서, 거래 명세서, payroll, ledger, balance sheet, finance, 家計簿, 정산서, "
+              "expense report, 재무, 세금 계산서",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<businessPlan, presentation, sales, email>,
@@ -176,7 +199,10 @@ constexpr auto rows = std::to_array<Shared>({
               "기말고사 요약 정리, 시험 요약 정리, 중간고사 대비, 기말고사 대비, 시험 범위 정리, 암기 노트, "
               "마인드맵, 공식 정리, 용어 정리, 핵심 요약, mind map, concept map, cheat note, 考试重点, "
               "思维导图, 心智圖, 公式汇总, 自学笔记, 考研笔记, 試験 対策, 公式集, 用語集, マインド マップ, "
-              "テスト 対策, 考前重点, 暗記まとめ, 暗記, 备考笔记, 备考资料, 備考筆記, 요약정리본, 対策 プリント",
+              "テスト 対策, 考前重点, 暗記まとめ, 暗記, 备考笔记, 备考资料, 備考筆記, 요약정리본, "
+              "対策 プリント, 閃卡, 考點, 單詞表, 詞彙表, 知識總結, 自習筆記, 考試重點, 思維導圖, 公式匯總, "
+              "自學筆記, 考研筆記, 考前重點, 重点笔记, 重點筆記, 总复习, 總複習, 單字本, 单词本, 生词本, "
+              "複習重點, 复习重点, 單字整理, 单词整理, 考前整理, 学习笔记, 學習筆記, 知识点",
      .generics = "",
      .cues = "시험, 중간고사, 기말고사, 중간, 기말, 단원, 수학, 영어, 국어, 과학, 물리, 화학, 생물, 지구과학, "
              "한국사, 세계사, 역사, 사회, 경제학, 심리학, 통계학, 미적분, 선형대수, 문법, 영문법, 단어, 어휘, "
@@ -199,7 +225,8 @@ constexpr auto rows = std::to_array<Shared>({
               "낙서, 끄적임, scratchpad, jottings, sticky note, 想法, 頭腦風暴, 随记, ネタ帳, ひらめき, "
               "随手笔记, 隨手筆記, 隨筆記, handoff note, handover note, session note, 세션 노트, 작업 메모, "
               "作業メモ, 工作笔记, scratch note, rough note, loose note, 잡생각, 随想, 雑記, 电话记录, "
-              "電話記録, 電話記錄, 通話記録, 草记",
+              "電話記録, 電話記錄, 通話記録, 草记, 隨手記, 靈感, 備忘, 隨記, 工作筆記, 隨想, 靈感筆記, "
+              "灵感笔记, 點子筆記, 点子笔记",
      .generics = "정리, 정리본, 요약, 요약본, 요약문, 요약 정리, 초고, 초벌, 의견, 노트, 기록, 기록지, 기록물, "
                  "결과, 내용, summary, summaries, notes, note, recap, takeaways, takeaway, records, record, "
                  "findings, variants, january, february, march, april, may, june, july, august, september, "
@@ -256,7 +283,15 @@ constexpr auto rows = std::to_array<Shared>({
                  "の書式, の様式, のたたき台, たたき台, の修正案, の改訂版, の案, 的初稿, 的草稿, 的模板, 的终稿, "
                  "的范本, 的示例, 조, 개정본, 시행본, 시즌, 오프닝, 엔딩, 인트로, 年版, 年月版, 年月日版, "
                  "年月日改定, 年月日改訂, 年月日更新, 年月日時点, 年月日現在, 年月現在, 年月日施行, 年月日修订, "
-                 "年修订, 年修訂, 年改訂版, 年改定, 月分まとめ",
+                 "年修订, 年修訂, 年改訂版, 年改定, 月分まとめ, 備選, 备选, 要點, 修訂稿, 記錄, 意見, 小結, 紀要, "
+                 "匯總, 終稿, 終版, 簡版, 樣本, 章節, 第一節, 第二節, 第三節, 第一課, 第二課, 第三課, 第一單元, "
+                 "第二單元, 第三單元, 第四單元, 第五單元, 第四课, 第五课, 第六课, 第四課, 第五課, 第六課, 七年级, "
+                 "八年级, 九年级, 七年級, 八年級, 九年級, 一年級, 二年級, 三年級, 四年級, 五年級, 六年級, 高一, "
+                 "高二, 高三, 初一, 初二, 初三, 國小, 國中, 國語, 業務部, 行銷部, 市場部, 一校, 二校, 三校, 初校, "
+                 "終校, 终校, 三则, 两则, 五则, 三則, 兩則, 五則, 的範本, 的終稿, 改定案, 改訂案, 第次改訂, "
+                 "第次改定, 案a, 案b, 案c, 案本, 第稿, バージョン, a版, b版, 종, 편집본, 一月號, 二月號, 三月號, "
+                 "四月號, 五月號, 六月號, 七月號, 八月號, 九月號, 十月號, 十一月號, 十二月號, 四月号, 五月号, "
+                 "六月号, 七月号, 八月号, 九月号, 十月号, 十一月号, 十二月号, 二月刊, 五月刊, 六月刊, 九月刊",
      .cues = "analyst, teacher, nurse, accountant, marketer, consultant, intern, graduate, new grad, 개발자, "
              "디자이너, 매니저, 마케터, 엔지니어, 면접용, エンジニア, デザイナー"},
     {.kinds = anyOf<journal, changelog>,
@@ -265,19 +300,20 @@ constexpr auto rows = std::to_array<Shared>({
               "training log, workout log, food log, sleep log, travel log, exercise log, running log, "
               "mood log, 手账, 手帳, 实习日志, diary entry, diary entries, 감사 일지, 그림 일기, 관찰일지, "
               "실습일지, 훈련일지, 독서일지, 근무일지, 학습일지, 당직일지, 현장일지, 다이어트일지, 독서일기, "
-              "여행일기, 관찰일기, 다이어트일기, 영어일기, dream log",
+              "여행일기, 관찰일기, 다이어트일기, 영어일기, dream log, 육아 일기, 周记, 週記",
      .generics = "로그, logs, log, ログ",
      .cues = ""},
     {.kinds = anyOf<meetingNotes, retrospective>,
      .names = "협의록, 스크럼 기록, 회의 결과, discussion note, weekly meeting, meeting outcome, 打合せ 記録, "
               "座谈会记录, 会议决议, 会议备忘, 晨会记录, 周会纪要, 面談 記録, 会議 次第, 定例 メモ, 面談 メモ, "
               "상담 기록, 상담 일지, 면담 기록, 面谈记录, 會談記錄, 会谈记录, 朝礼 メモ, 미팅록, 会记录, "
-              "会紀錄, 會記錄, 會紀錄, 议事录, 議事錄, 朝会 メモ",
+              "会紀錄, 會記錄, 會紀錄, 议事录, 議事錄, 朝会 メモ, 座談會記錄, 會議決議, 會議備忘, 晨會記錄, "
+              "面談記錄, 週會記錄, 討論紀要",
      .generics = "",
      .cues = "워크숍, 워크샵, 원온원, 데일리, 싱크, 타운홀, 정례 회의, 팀 미팅, 팀 회의, 임원 회의, "
              "전체 회의, 정기 회의, 이사회, 면접, workshop, town hall, all hands, check in, offsite, huddle, "
              "catch up, debrief, ワークショップ, 朝会, 定例, 研讨会, 研討會, 例会, 周会, committee, 협의회, "
-             "위원회, 座談会, 委員会, 座谈会"},
+             "위원회, 座談会, 委員会, 座谈会, 例會, 週會, 座談會, 委員會"},
     {.kinds = anyOf<blogPost, socialPost, essay>,
      .names = "포스트, 게시글, 스레드, thread, スレッド, 후기, 체험기, 사용기, 방문기, 기고, post, write up, "
               "writeup, 記事, 文章, 帖子, 体験記, 기사, 아티클, 포스팅, 블로그 포스트, 体験談, 博文, listicle, "
@@ -295,7 +331,9 @@ constexpr auto rows = std::to_array<Shared>({
               "참석자명단, 참가자명단, 직원명단, 회원명단, 수강생명단, 신청자명단, 합격자명단, 거래처명단, "
               "회원명부, 직원명부, 학생명부, 비품대장, 자산대장, 재고대장, 관리대장, 출입대장, 문서대장, "
               "물품대장, 장비대장, 자산목록, 비품목록, 도서목록, 물품목록, 장비목록, 고객목록, 업체목록, "
-              "제품목록, 상품목록, 거래처목록, 자료목록, 파일목록, 출석현황",
+              "제품목록, 상품목록, 거래처목록, 자료목록, 파일목록, 출석현황, 报表, 统计表, 数据集, 報表, "
+              "統計表, 資料集, 數據集, 資料表, 名冊, 匯總表, 清冊, 成績單, 簽到表, data dictionary, "
+              "sales figure, metrics, 통계, 集計",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<guide, learning>,
@@ -310,7 +348,11 @@ constexpr auto rows = std::to_array<Shared>({
               "진행 절차, 꿀팁, 꿀팁 모음, 노하우, 申請方法, 利用方法, 申请方法, 使用方法, 操作方法, 登録方法, "
               "절차서, 업무매뉴얼, 사용자매뉴얼, 관리자매뉴얼, 운영매뉴얼, 설치매뉴얼, 교육매뉴얼, 안전매뉴얼, "
               "작업매뉴얼, 대응매뉴얼, 장애대응매뉴얼, 설치가이드, 사용자가이드, 이용가이드, 개발가이드, "
-              "작성가이드, 운영가이드, 온보딩가이드, 입문가이드, 배포가이드, ランブック",
+              "작성가이드, 운영가이드, 온보딩가이드, 입문가이드, 배포가이드, ランブック, 说明书, 說明書, "
+              "操作说明, 使用说明, 攻略, 流程, 幫助文件, 新手入門, 作業指導書, 最佳實踐, 快速入門, 技巧匯總, "
+              "問題排查, 環境搭建, 環境配置, 懶人包, 操作流程, runbooks, tutorials, best practice, sops, "
+              "howto, 環境構築, 런북, 인수인계서, 지침서, 步驟說明, 步骤说明, troubleshooting, しおり, 説明書, "
+              "步驟, 步骤, 設定步驟",
      .generics = "문서, 문서화, 서류, 개요, 소개, 입문, 기초, documents, document, documentation, doc, docs, "
                  "overview, introduction, intro, basics, fundamentals, 文書, ドキュメント, 概要, 紹介, 入門, "
                  "基礎, 文档, 文檔, 文件, 概述, 简介, 簡介, 介绍, 介紹, 入门, 基础, 概览, 概覽, 总览, 개괄, "
