@@ -35,7 +35,7 @@ constexpr Base words[] = {
               "議事次第, 打合せ メモ",
      .cues = "会議, ミーティング, 打ち合わせ",
      .weak = "",
-     .markers = "議題, 決定事項, 決定, 出席者"},
+     .markers = "議題, 決定事項, 決定"},
     {.kind = DocumentKind::report,
      .names = "報告書, レポート, 報告, 週報, 日報, 月報",
      .cues = "月次, 四半期, 進捗",
@@ -104,7 +104,7 @@ constexpr Base words[] = {
               "インシデント 報告, 事故報告書, 原因 分析, 再発 防止策, 始末書",
      .cues = "障害, インシデント",
      .weak = "",
-     .markers = "再発防止, 原因, 影響, 復旧"},
+     .markers = "再発防止, 原因, 影響"},
     {.kind = DocumentKind::changelog,
      .names = "変更 履歴, 更新 履歴, リリース ノート, 改訂 履歴, 変更点, アップデート内容, 更新内容, "
               "アップデート情報",
@@ -171,7 +171,7 @@ constexpr Base words[] = {
               "内容証明",
      .cues = "法務",
      .weak = "",
-     .markers = "第条, 甲, 乙, 本契約"},
+     .markers = "第条, 甲, 乙"},
     {.kind = DocumentKind::policy,
      .names = "規程, 規定, 規則, ルール, ポリシー, ガイドライン, 方針, 心得, 指針, 校則, 細則, 要綱, 会則",
      .cues = "コンプライアンス",
@@ -258,7 +258,7 @@ constexpr Base words[] = {
      .names = "履歴書, 経歴書, エントリー シート, 自己pr, 志望 動機, ポートフォリオ, 推薦状, プロフィール",
      .cues = "転職",
      .weak = "自己 紹介",
-     .markers = ""},
+     .markers = "学歴, 職歴, 資格"},
     {.kind = DocumentKind::travelPlan,
      .names = "旅行 計画, 旅行 計画書, 旅行 プラン, 旅程, 旅行 日程, 旅行の しおり, 旅の しおり, 旅行の日程",
      .cues = "旅行, 観光",
@@ -268,7 +268,7 @@ constexpr Base words[] = {
      .names = "レシピ, 献立, 作り方, メニュー",
      .cues = "料理",
      .weak = "",
-     .markers = "材料, 大さじ, 小さじ, 作り方"},
+     .markers = "材料, 大さじ, 作り方"},
 };
 
 }  // namespace

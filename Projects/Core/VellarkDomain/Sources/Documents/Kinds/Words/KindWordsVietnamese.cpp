@@ -49,10 +49,10 @@ constexpr std::array<Layered, 55> words{{
      "danh sách việc cần làm, danh sách mua sắm, công việc cần làm, checklist",
      ""},
     {DocumentKind::proposal, "đề xuất, tờ trình, đề án, phương án, kiến nghị, hồ sơ đề xuất, hồ sơ dự thầu", ""},
-    {DocumentKind::memo, "ghi chú, ghi nhớ, ghi chép, bản ghi nhớ", ""},
+    {DocumentKind::memo, "ghi chú, ghi nhớ, ghi chép, bản ghi nhớ, phiếu nhắc việc", ""},
     {DocumentKind::presentation,
      "bài thuyết trình, thuyết trình, bản trình bày, bài trình bày, slide thuyết trình, "
-     "tham luận, bản trình chiếu, bài trình chiếu, slide giới thiệu",
+     "bản trình chiếu, bài trình chiếu, slide giới thiệu",
      ""},
     {DocumentKind::designDoc,
      "tài liệu thiết kế, thiết kế hệ thống, thiết kế kỹ thuật, thiết kế phần mềm, "
@@ -86,11 +86,11 @@ constexpr std::array<Layered, 55> words{{
      "dữ liệu, bộ dữ liệu, số liệu, thống kê, bảng thống kê, danh sách, bảng điểm, "
      "bảng số liệu, danh bạ, bảng dữ liệu",
      ""},
-    {DocumentKind::prompt, "prompt, bộ prompt, prompt viết, prompt tạo, câu lệnh", ""},
+    {DocumentKind::prompt, "prompt, prompt viết, prompt tạo, câu lệnh", ""},
     {DocumentKind::design,
      "thiết kế, bản thiết kế, bản vẽ, phác thảo, nguyên mẫu, giao diện, "
      "chân dung người dùng, hành trình khách hàng, chân dung khách hàng, mockup màn hình, "
-     "wireframe màn hình",
+     "wireframe màn hình, bản phác thảo",
      ""},
     {DocumentKind::designSystem,
      "hệ thống thiết kế, bộ nhận diện thương hiệu, nhận diện thương hiệu, "
@@ -102,7 +102,7 @@ constexpr std::array<Layered, 55> words{{
      ""},
     {DocumentKind::sales,
      "tài liệu bán hàng, hồ sơ năng lực, kịch bản bán hàng, bảng giá, thư chào hàng, chào hàng, "
-     "hồ sơ chào hàng, kịch bản chốt sale, kịch bản tư vấn",
+     "hồ sơ chào hàng, kịch bản chốt sale, kịch bản tư vấn, thư chào giá",
      ""},
     {DocumentKind::pressRelease, "thông cáo, tcbc", ""},
     {DocumentKind::newsletter, "bản tin", ""},
@@ -115,7 +115,8 @@ constexpr std::array<Layered, 55> words{{
      "ngân sách, dự toán, hóa đơn, hoá đơn, báo giá, bảng báo giá, báo cáo tài chính, "
      "báo cáo thu chi, bảng lương, bảng cân đối kế toán, sổ thu chi, quyết toán, dòng tiền, "
      "kế hoạch tài chính, phân tích tài chính, phiếu thu, đơn đặt hàng, đề nghị thanh toán, "
-     "báo cáo chi phí, phiếu chi, phiếu lương, tờ khai thuế, giấy đề nghị thanh toán, biên lai",
+     "báo cáo chi phí, phiếu chi, phiếu lương, tờ khai thuế, giấy đề nghị thanh toán, "
+     "biên lai, bảng quyết toán",
      ""},
     {DocumentKind::legal,
      "hợp đồng, mẫu hợp đồng, dự thảo hợp đồng, thỏa thuận, thoả thuận, điều khoản, "
@@ -134,9 +135,9 @@ constexpr std::array<Layered, 55> words{{
      ""},
     {DocumentKind::email,
      "thư điện tử, email gửi, email cảm ơn, email mời, email xin, mẫu email, thư cảm ơn, "
-     "thư gửi, thư xin lỗi, công văn, mẫu mail, mail gửi, đơn xin nghỉ việc, thư khiếu nại",
+     "thư gửi, thư xin lỗi, công văn, mẫu mail, đơn xin nghỉ việc, thư khiếu nại",
      "thư"},
-    {DocumentKind::faq, "câu hỏi thường gặp, những câu hỏi thường gặp, hỏi đáp, giải đáp thắc mắc, faq", ""},
+    {DocumentKind::faq, "câu hỏi thường gặp, hỏi đáp, giải đáp thắc mắc, faq", ""},
     {DocumentKind::blogPost, "bài viết, bài blog, bài đăng blog, bài báo", ""},
     {DocumentKind::script, "kịch bản, lời thoại, phụ đề, bài phát biểu, lời dẫn, diễn văn", ""},
     {DocumentKind::essay,
@@ -148,7 +149,8 @@ constexpr std::array<Layered, 55> words{{
     {DocumentKind::learning,
      "giáo án, giáo trình, tài liệu học tập, tài liệu đào tạo, chương trình đào tạo, "
      "chương trình học, khóa học, khoá học, bài học, đề cương môn học, kế hoạch bài dạy, "
-     "chương trình giảng dạy, đề cương khóa học, tài liệu tập huấn, đề cương chi tiết",
+     "chương trình giảng dạy, đề cương khóa học, tài liệu tập huấn, đề cương chi tiết, "
+     "đề cương học phần",
      ""},
     {DocumentKind::lectureNotes,
      "bài giảng, ghi chép bài giảng, ghi chú bài giảng, tóm tắt bài giảng, slide bài giảng, "
@@ -160,14 +162,15 @@ constexpr std::array<Layered, 55> words{{
      "tài liệu ôn thi, tóm tắt ôn thi, tóm tắt lý thuyết, ghi chú ôn thi",
      ""},
     {DocumentKind::readingNotes,
-     "ghi chú đọc sách, tóm tắt sách, tóm tắt tác phẩm, cảm nhận sách, điểm sách, review sách, "
+     "ghi chú đọc sách, tóm tắt sách, tóm tắt tác phẩm, cảm nhận sách, review sách, "
      "ghi chép đọc sách, nhật ký đọc",
      ""},
     {DocumentKind::exercises, "bài tập, phiếu bài tập, phiếu học tập, bài toán, bài thực hành, luyện tập", ""},
     {DocumentKind::solutions, "lời giải, đáp án, bài giải, hướng dẫn giải, giải bài tập, giải đề, giải chi tiết", ""},
     {DocumentKind::quiz,
      "đề thi, bài thi, đề kiểm tra, bài kiểm tra, trắc nghiệm, bài trắc nghiệm, "
-     "câu hỏi trắc nghiệm, ngân hàng câu hỏi, kiểm tra giữa kỳ, bộ đề, thi thử",
+     "câu hỏi trắc nghiệm, ngân hàng câu hỏi, kiểm tra giữa kỳ, bộ đề, thi thử, "
+     "kiểm tra 15 phút",
      ""},
     {DocumentKind::errorNotes,
      "sổ tay lỗi sai, tổng hợp lỗi sai, lỗi sai, sổ ghi lỗi, ghi chép câu sai, "
@@ -184,7 +187,7 @@ constexpr std::array<Layered, 55> words{{
      ""},
     {DocumentKind::travelPlan,
      "kế hoạch du lịch, lịch trình, kế hoạch chuyến đi, hành trình, cẩm nang du lịch, "
-     "hướng dẫn du lịch, kế hoạch đi chơi",
+     "kế hoạch đi chơi",
      ""},
     {DocumentKind::recipe, "công thức, cách nấu, cách làm bánh, thực đơn, cách làm món", ""},
 }};
