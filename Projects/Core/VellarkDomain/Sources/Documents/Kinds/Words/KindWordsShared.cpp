@@ -47,7 +47,7 @@ constexpr auto rows = std::to_array<Shared>({
               "情況說明, 專案總結, 季度總結, 月度總結, 階段總結, 驗證結果, 重構總結, 優化總結, 專案進展, "
               "專案進度, 活動總結, 培訓總結, 學期總結, 實習總結, 季报, 年报, 季報, 年報, 진행 상황, "
               "business review, 주간 업무 보고, 출장 보고, 일일 보고, 월간 보고, 工作总结, 年终总结, 年終總結, "
-              "日报, 月报, 月報表, 掃描結果, 扫描结果",
+              "日报, 月报, 月報表, 掃描結果, 扫描结果, executive summary, dashboard",
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<report, codeReview, essay>,
@@ -83,10 +83,11 @@ constexpr auto rows = std::to_array<Shared>({
               "방학숙제, 수학과제, 영어과제, 주차과제, 기말과제, 수행과제, 练习题, 作业单, 練習單, 练习单, "
               "作業單, 課後題, 思考題, 課後練習, 课后练习, 回家作業, 家庭作业, 家庭作業, 寒假作业, 暑假作业, "
               "寒假作業, 暑假作業, 數學作業, 英文作業, 國文作業, 數學習題, ドリル, 練習問題プリント, "
-              "問題プリント",
+              "問題プリント, problem set",
      .generics = "",
      .cues = "practice, mock, final, placement, entrance, driving, spelling, semester, certification, "
-             "licence, license, pub"},
+             "licence, license, pub, safety, module, knowledge, security, team, capitals, product, culture, "
+             "music"},
     {.kinds = anyOf<learning, lectureNotes>,
      .names = "강의 자료, 강좌, 온라인 강의, 교육 계획서, 학습 계획서, learning path, training plan, "
               "수업 자료, 강의 슬라이드, 유인물, lecture slide, lecture material, class material, handout, "
