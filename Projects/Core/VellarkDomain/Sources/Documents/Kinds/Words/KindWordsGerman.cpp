@@ -22,16 +22,16 @@ constexpr Layered words[] = {
               "anforderungsdokument, spezifikationen, anforderungsliste",
      .weak = ""},
     {.kind = DocumentKind::plan,
-     .nouns = "plan, zeitplan, terminplan, projektplan, maßnahmenplan, wochenplan, dienstplan, planung, "
-              "strategie, roadmap, schichtplan, migrationsplan, roadmaps, okr, planning",
+     .nouns = "plan, zeitplan, terminplan, projektplan, maßnahmenplan, wochenplan, dienstplan, planung, strategie, "
+              "roadmap, schichtplan, migrationsplan, okr, planning",
      .weak = ""},
     {.kind = DocumentKind::userStories,
      .nouns = "user story, user stories, anwendungsfall, anwendungsfälle, akzeptanzkriterien, "
               "nutzergeschichten, use case, use cases, anwendergeschichten, user storys",
      .weak = ""},
     {.kind = DocumentKind::meetingNotes,
-     .nouns = "protokoll, besprechungsnotiz, besprechungsnotizen, gesprächsnotiz, tagesordnung, "
-              "meeting-notizen, agenda, meeting notes, meeting minutes, protokolle, besprechungen",
+     .nouns = "protokoll, besprechungsnotiz, besprechungsnotizen, gesprächsnotiz, tagesordnung, meeting-notizen, "
+              "agenda, meeting notes, meeting minutes, protokolle",
      .weak = ""},
     {.kind = DocumentKind::report,
      .nouns = "bericht, report, analyse, auswertung, gutachten, versuchsprotokoll, berichte, audit",
@@ -53,7 +53,7 @@ constexpr Layered words[] = {
      .nouns = "notiz, notizen, vermerk, memo an, notizzettel, ideensammlung, memo",
      .weak = ""},
     {.kind = DocumentKind::presentation,
-     .nouns = "präsentation, folien, vortrag, referat, foliensatz, präsentationen, slide, slides",
+     .nouns = "präsentation, folien, vortrag, referat, foliensatz, slide, slides",
      .weak = ""},
     {.kind = DocumentKind::designDoc,
      .nouns = "architektur, architekturkonzept, architekturentscheidung, technisches konzept, feinkonzept, "
@@ -69,7 +69,7 @@ constexpr Layered words[] = {
               "abnahmetest, testszenarien, test cases",
      .weak = ""},
     {.kind = DocumentKind::bugReport,
-     .nouns = "fehlerbericht, fehlermeldung, bugreport, fehlerliste, bug report",
+     .nouns = "fehlerbericht, fehlermeldung, bugreport, fehlerliste, bug report, bugmeldung",
      .weak = ""},
     {.kind = DocumentKind::codeReview, .nouns = "code review, codedurchsicht, codeprüfung", .weak = ""},
     {.kind = DocumentKind::postmortem,
@@ -98,8 +98,8 @@ constexpr Layered words[] = {
               "design-handbuch, style guide, design tokens, markenrichtlinien",
      .weak = ""},
     {.kind = DocumentKind::marketingCopy,
-     .nouns = "werbetext, werbetexte, anzeigentext, slogan, produktbeschreibung, broschüre, flyer, "
-              "landingpage, anzeigentexte, faltblatt, verkaufstext, slogans",
+     .nouns = "werbetext, werbetexte, anzeigentext, slogan, produktbeschreibung, broschüre, flyer, landingpage, "
+              "anzeigentexte, faltblatt, verkaufstext, slogans, flyertext",
      .weak = ""},
     {.kind = DocumentKind::sales,
      .nouns = "angebot, verkaufsunterlagen, vertriebsunterlagen, vertriebspräsentation, verkaufspräsentation, "
@@ -110,7 +110,7 @@ constexpr Layered words[] = {
               "presseinfo",
      .weak = ""},
     {.kind = DocumentKind::newsletter,
-     .nouns = "newsletter, rundbrief, infobrief, mitarbeiterzeitung, gemeindebrief",
+     .nouns = "newsletter, rundbrief, infobrief, mitarbeiterzeitung, gemeindebrief, vereinsnachrichten",
      .weak = ""},
     {.kind = DocumentKind::socialPost,
      .nouns = "social-media-beiträge, social-media-post, linkedin-beitrag, linkedin-post, instagram-beitrag, "
@@ -121,9 +121,9 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::finance,
      .nouns = "budget, budgetplan, finanzplan, kostenplan, haushaltsplan, rechnung, rechnungen, abrechnung, "
-              "kostenvoranschlag, jahresabschluss, bilanz, kalkulation, finanzbericht, haushaltsbuch, "
-              "steuererklärung, quittung, kostenaufstellung, budgetplanung, mahnung, lieferschein, "
-              "kontoauszug, gutschrift, bestellung, kassenbuch, finanzen",
+              "kostenvoranschlag, jahresabschluss, bilanz, kalkulation, finanzbericht, haushaltsbuch, steuererklärung, "
+              "quittung, kostenaufstellung, budgetplanung, mahnung, lieferschein, kontoauszug, gutschrift, bestellung, "
+              "finanzen",
      .weak = ""},
     {.kind = DocumentKind::legal,
      .nouns = "vertrag, vereinbarung, agb, allgemeine geschäftsbedingungen, nutzungsbedingungen, vollmacht, "
@@ -158,20 +158,20 @@ constexpr Layered words[] = {
               "moderationstext, sprechertext",
      .weak = ""},
     {.kind = DocumentKind::essay,
-     .nouns = "essay, aufsatz, kolumne, kommentar, rezension, leitartikel, erörterung, filmkritik, "
-              "buchbesprechung, stellungnahme, glosse",
+     .nouns = "essay, aufsatz, kolumne, kommentar, rezension, leitartikel, erörterung, filmkritik, buchbesprechung, "
+              "stellungnahme, glosse, leserbrief",
      .weak = ""},
     {.kind = DocumentKind::story,
      .nouns = "kurzgeschichte, roman, märchen, erzählung, gedicht, fabel, liedtext",
      .weak = ""},
-    {.kind = DocumentKind::translation, .nouns = "übersetzung, englische fassung", .weak = ""},
+    {.kind = DocumentKind::translation, .nouns = "übersetzung", .weak = ""},
     {.kind = DocumentKind::learning,
      .nouns = "lehrplan, unterrichtsmaterial, unterrichtsmaterialien, unterrichtsentwurf, unterrichtsplanung, "
               "schulungsunterlagen, kursunterlagen, modulhandbuch, stoffverteilungsplan, seminarplan, "
               "arbeitsheft, lernplan, schulungskonzept, syllabus, kursplan",
      .weak = ""},
     {.kind = DocumentKind::lectureNotes,
-     .nouns = "mitschrift, vorlesungsnotizen, vorlesungsskript, lecture notes",
+     .nouns = "mitschrift, vorlesungsnotizen, vorlesungsskript, lecture notes, vorlesungsmitschrift",
      .weak = ""},
     {.kind = DocumentKind::studyNotes,
      .nouns = "lernzettel, karteikarten, prüfungsvorbereitung, vokabelliste, vokabeln, formelsammlung, "
@@ -198,11 +198,11 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::journal, .nouns = "tagebuch, tagebucheintrag, logbuch", .weak = ""},
     {.kind = DocumentKind::resume,
-     .nouns = "lebenslauf, bewerbung, bewerbungsschreiben, motivationsschreiben, empfehlungsschreiben, "
-              "arbeitszeugnis",
+     .nouns = "lebenslauf, bewerbung, bewerbungsschreiben, motivationsschreiben, empfehlungsschreiben, arbeitszeugnis, "
+              "bewerbungsanschreiben",
      .weak = ""},
     {.kind = DocumentKind::travelPlan,
-     .nouns = "reiseplan, reiseplanung, reiseroute, reiseprogramm, urlaubsplan, urlaubsplanung, reisen",
+     .nouns = "reiseplan, reiseplanung, reiseroute, reiseprogramm, urlaubsplan, urlaubsplanung",
      .weak = ""},
     {.kind = DocumentKind::recipe, .nouns = "rezept, rezepte, kochbuch, speiseplan, rezeptsammlung, menü", .weak = ""},
 };
