@@ -132,7 +132,7 @@ constexpr Base words[] = {
      .markers = ""},
     {.kind = DocumentKind::sales,
      .names = "销售方案, 话术, 客户案例, 公司介绍, 銷售手冊, 销售资料, 公司简介, 价目表, 产品目录, 价格表, 产品手册, "
-              "产品单页, 产品介绍, 型錄, 公司簡介, 產品目錄, 报价方案",
+              "产品单页, 产品介绍, 型錄, 公司簡介, 產品目錄, 销售手册",
      .cues = "销售, 客户",
      .weak = "",
      .markers = ""},
@@ -230,7 +230,7 @@ constexpr Base words[] = {
      .markers = ""},
     {.kind = DocumentKind::exercises, .names = "习题, 作业, 學習單", .cues = "", .weak = "", .markers = ""},
     {.kind = DocumentKind::solutions,
-     .names = "答案, 答案与解析, 答案解析, 詳解, 题解, 習題解析, 題解, 答案及解析",
+     .names = "答案, 答案与解析, 答案解析, 詳解, 题解, 題解, 答案及解析, 习题解析",
      .cues = "",
      .weak = "",
      .markers = ""},

@@ -99,7 +99,7 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::marketingCopy,
      .nouns = "werbetext, werbetexte, anzeigentext, slogan, produktbeschreibung, broschüre, flyer, landingpage, "
-              "anzeigentexte, faltblatt, verkaufstext, slogans, flyertext",
+              "anzeigentexte, faltblatt, verkaufstext, slogans",
      .weak = ""},
     {.kind = DocumentKind::sales,
      .nouns = "angebot, verkaufsunterlagen, vertriebsunterlagen, vertriebspräsentation, verkaufspräsentation, "
@@ -123,7 +123,7 @@ constexpr Layered words[] = {
      .nouns = "budget, budgetplan, finanzplan, kostenplan, haushaltsplan, rechnung, rechnungen, abrechnung, "
               "kostenvoranschlag, jahresabschluss, bilanz, kalkulation, finanzbericht, haushaltsbuch, steuererklärung, "
               "quittung, kostenaufstellung, budgetplanung, mahnung, lieferschein, kontoauszug, gutschrift, bestellung, "
-              "finanzen",
+              "finanzen, kassenbuch",
      .weak = ""},
     {.kind = DocumentKind::legal,
      .nouns = "vertrag, vereinbarung, agb, allgemeine geschäftsbedingungen, nutzungsbedingungen, vollmacht, "

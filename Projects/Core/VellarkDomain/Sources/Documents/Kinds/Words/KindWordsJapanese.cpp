@@ -53,8 +53,8 @@ constexpr Base words[] = {
      .weak = "",
      .markers = ""},
     {.kind = DocumentKind::checklist,
-     .names = "チェック リスト, やること リスト, タスク リスト, 買い物 リスト, 持ち物 リスト, チェック シート, "
-              "確認項目 一覧, 点検表, 確認 リスト, todoリスト, 持ち物",
+     .names = "チェック リスト, やること リスト, タスク リスト, 買い物 リスト, 持ち物 リスト, チェック シート, 点検表, "
+              "確認 リスト, todoリスト, 持ち物, 確認 事項",
      .cues = "点検, 持ち物, 準備",
      .weak = "タスク, やること",
      .markers = ""},
@@ -84,7 +84,7 @@ constexpr Base words[] = {
      .markers = ""},
     {.kind = DocumentKind::testPlan,
      .names = "テスト 計画, テスト 計画書, テスト 仕様書, テスト ケース, テスト シナリオ, 試験項目書, "
-              "テスト ケース 一覧, qa シナリオ, 試験計画",
+              "テスト ケース 一覧, 試験計画, テスト 項目",
      .cues = "結合テスト",
      .weak = "",
      .markers = ""},
@@ -190,7 +190,7 @@ constexpr Base words[] = {
      .weak = "メール",
      .markers = "拝啓, よろしくお願い, お世話になっております, 件名"},
     {.kind = DocumentKind::faq,
-     .names = "よくある 質問, よくある ご質問, q a集, 問答集",
+     .names = "よくある 質問, よくある ご質問, q a集, 問答集, 質疑応答",
      .cues = "問い合わせ",
      .weak = "",
      .markers = ""},
@@ -236,7 +236,7 @@ constexpr Base words[] = {
      .cues = "",
      .weak = "",
      .markers = ""},
-    {.kind = DocumentKind::solutions, .names = "解答, 解き方, 解説, 解法, 答え", .cues = "", .weak = "", .markers = ""},
+    {.kind = DocumentKind::solutions, .names = "解答, 解説, 解法, 答え", .cues = "", .weak = "", .markers = ""},
     {.kind = DocumentKind::quiz,
      .names = "小テスト, 試験 問題, テスト 問題, クイズ, 模試, 模擬 試験, 確認 テスト, 単語テスト, 期末テスト, "
               "中間テスト",
