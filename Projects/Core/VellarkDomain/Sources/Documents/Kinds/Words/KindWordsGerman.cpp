@@ -23,7 +23,7 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::plan,
      .nouns = "plan, zeitplan, terminplan, projektplan, maßnahmenplan, wochenplan, dienstplan, planung, strategie, "
-              "roadmap, schichtplan, migrationsplan, okr, planning",
+              "roadmap, schichtplan, migrationsplan, okr, planning, umsetzungsplan",
      .weak = ""},
     {.kind = DocumentKind::userStories,
      .nouns = "user story, user stories, anwendungsfall, anwendungsfälle, akzeptanzkriterien, "
@@ -58,7 +58,7 @@ constexpr Layered words[] = {
     {.kind = DocumentKind::designDoc,
      .nouns = "architektur, architekturkonzept, architekturentscheidung, technisches konzept, feinkonzept, "
               "systementwurf, datenmodell, architekturentwurf, architekturdokument, technisches design, "
-              "entwurfsdokument, ablaufdiagramm, grobkonzept, architekturübersicht, schema",
+              "ablaufdiagramm, grobkonzept, architekturübersicht, schema",
      .weak = ""},
     {.kind = DocumentKind::apiDoc,
      .nouns = "api-dokumentation, api-referenz, api-spezifikation, schnittstellenbeschreibung, "
@@ -126,9 +126,9 @@ constexpr Layered words[] = {
               "finanzen, kassenbuch",
      .weak = ""},
     {.kind = DocumentKind::legal,
-     .nouns = "vertrag, vereinbarung, agb, allgemeine geschäftsbedingungen, nutzungsbedingungen, vollmacht, "
-              "kündigung, lizenz, satzung, klage, einverständniserklärung, widerspruch, übergabeprotokoll, "
-              "impressum, bescheinigung, abmahnung, patientenverfügung, bürgschaft, verträge, klageschrift",
+     .nouns = "vertrag, vereinbarung, agb, allgemeine geschäftsbedingungen, nutzungsbedingungen, vollmacht, kündigung, "
+              "lizenz, satzung, klage, einverständniserklärung, widerspruch, übergabeprotokoll, impressum, "
+              "bescheinigung, abmahnung, patientenverfügung, bürgschaft, verträge, klageschrift",
      .weak = ""},
     {.kind = DocumentKind::policy,
      .nouns = "richtlinie, richtlinien, leitlinien, regelung, regeln, vorschriften, betriebsvereinbarung, "
@@ -178,8 +178,7 @@ constexpr Layered words[] = {
               "lernkarten, spickzettel, zusammenfassung",
      .weak = ""},
     {.kind = DocumentKind::readingNotes,
-     .nouns = "lesenotizen, buchzusammenfassung, lesetagebuch, exzerpt, inhaltsangabe, leseprotokoll, "
-              "lektürenotizen",
+     .nouns = "lesenotizen, buchzusammenfassung, lesetagebuch, exzerpt, inhaltsangabe, leseprotokoll, lektürenotizen",
      .weak = ""},
     {.kind = DocumentKind::exercises,
      .nouns = "übungsaufgabe, übungsaufgaben, übung, übungen, übungsblatt, übungsblätter, arbeitsblatt, "

@@ -99,7 +99,7 @@ constexpr auto rows = std::to_array<Base>({
      .weak = "이슈",
      .markers = "재현, 실제, 기대, 환경"},
     {.kind = codeReview,
-     .names = "코드 리뷰, pr 리뷰, 코드 검토",
+     .names = "코드 리뷰, pr 리뷰, 코드 검토, 리뷰 코멘트",
      .cues = "코드, 리팩터링, 리팩토링, 커밋",
      .weak = "피드백, 의견",
      .markers = ""},
@@ -136,7 +136,7 @@ constexpr auto rows = std::to_array<Base>({
      .markers = ""},
     {.kind = marketingCopy,
      .names = "광고 문구, 카피, 문구, 슬로건, 상세 페이지, 브로슈어, 홍보문, 전단지, 리플렛, 문안, 상품 설명, "
-              "카피라이팅, 홍보 문구, 광고 카피, 문구 시안, 카피 시안",
+              "카피라이팅, 홍보 문구, 광고 카피, 문구 시안",
      .cues = "광고, 홍보, 캠페인, 마케팅",
      .weak = "",
      .markers = ""},

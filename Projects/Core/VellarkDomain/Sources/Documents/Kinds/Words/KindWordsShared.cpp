@@ -73,17 +73,16 @@ constexpr auto rows = std::to_array<Shared>({
      .generics = "",
      .cues = ""},
     {.kinds = anyOf<exercises, quiz, bugReport>,
-     .names = "문제, 문항, 問題, 题目, 題目, 試題, 试题, 设问, 設問, 기출 문제, practice problem, "
-              "practice question, question bank, review question, 演習 問題, 過去問, 確認 問題, 練習題, "
-              "练习卷, 練習卷, 真题, 真題, 课后题, 思考题, 题库, 題庫, 章末問題, 练习, 练习册, 習題, 練習冊, "
-              "練習, 課題, drill, 문제지, 예제, 練習 プリント, 習題集, 워크시트, 예상 문제, 문제은행, "
-              "practice sheet, 应用题, 應用題, 演習, 計算 プリント, 例題, 演習 課題, 宿題 プリント, 口算题卡, "
-              "口算题, 학습지, 算数 プリント, 漢字 プリント, 国語 プリント, 英語 プリント, わり算 プリント, "
-              "かけ算 プリント, 復習 プリント, 学習 プリント, 수학숙제, 영어숙제, 국어숙제, 과학숙제, "
-              "방학숙제, 수학과제, 영어과제, 주차과제, 기말과제, 수행과제, 练习题, 作业单, 練習單, 练习单, "
-              "作業單, 課後題, 思考題, 課後練習, 课后练习, 回家作業, 家庭作业, 家庭作業, 寒假作业, 暑假作业, "
-              "寒假作業, 暑假作業, 數學作業, 英文作業, 國文作業, 數學習題, ドリル, 練習問題プリント, "
-              "問題プリント, problem set",
+     .names = "문제, 문항, 問題, 题目, 題目, 試題, 试题, 设问, 設問, 기출 문제, practice problem, practice question, "
+              "question bank, review question, 演習 問題, 過去問, 確認 問題, 練習題, 练习卷, 練習卷, 真题, 真題, "
+              "课后题, 思考题, 题库, 題庫, 章末問題, 练习, 练习册, 習題, 練習冊, 練習, 課題, drill, 문제지, 예제, "
+              "練習 プリント, 習題集, 워크시트, 예상 문제, 문제은행, practice sheet, 应用题, 應用題, 演習, "
+              "計算 プリント, 例題, 演習 課題, 宿題 プリント, 口算题卡, 口算题, 학습지, 算数 プリント, 漢字 プリント, "
+              "国語 プリント, 英語 プリント, わり算 プリント, かけ算 プリント, 復習 プリント, 学習 プリント, 수학숙제, "
+              "영어숙제, 국어숙제, 과학숙제, 방학숙제, 수학과제, 영어과제, 주차과제, 기말과제, 수행과제, 练习题, "
+              "作业单, 練習單, 练习单, 作業單, 課後題, 思考題, 課後練習, 课后练习, 回家作業, 家庭作业, 家庭作業, "
+              "寒假作业, 暑假作业, 寒假作業, 暑假作業, 數學作業, 英文作業, 國文作業, 數學習題, ドリル, "
+              "練習問題プリント, 問題プリント, problem set, 연습지",
      .generics = "",
      .cues = "practice, mock, final, placement, entrance, driving, spelling, semester, certification, "
              "licence, license, pub, safety, module, knowledge, security, team, capitals, product, culture, "
@@ -203,13 +202,15 @@ constexpr auto rows = std::to_array<Shared>({
               "自學筆記, 考研筆記, 考前重點, 重点笔记, 重點筆記, 总复习, 總複習, 單字本, 单词本, 生词本, "
               "複習重點, 复习重点, 單字整理, 单词整理, 考前整理, 学习笔记, 學習筆記, 知识点",
      .generics = "",
-     .cues = "시험, 중간고사, 기말고사, 중간, 기말, 단원, 수학, 영어, 국어, 과학, 물리, 화학, 생물, 지구과학, "
-             "한국사, 세계사, 역사, 사회, 경제학, 심리학, 통계학, 미적분, 선형대수, 문법, 영문법, 단어, 어휘, "
-             "한자, 토익, 수능, 내신, 자격증, 챕터, chapter, unit, math, algebra, calculus, geometry, "
-             "physics, chemistry, biology, history, geography, economics, psychology, grammar, vocabulary, "
-             "anatomy, statistics, lesson, spanish, english, french, science, 試験, 期末, 期中, 中間, 数学, "
-             "數學, 英語, 英语, 物理, 化学, 化學, 生物, 歴史, 世界史, 日本史, 历史, 歷史, 考试, 考試, 単元, "
-             "单元, 文法, 语法, 語法, 単語, 单词, 암기, 漢字, 計算, 国語, 算数, 理科, 听写, 语文, 실기, 필기"},
+     .cues = "시험, 중간고사, 기말고사, 중간, 기말, 단원, 수학, 영어, 국어, 과학, 물리, 화학, 생물, 지구과학, 한국사, "
+             "세계사, 역사, 사회, 경제학, 심리학, 통계학, 미적분, 선형대수, 문법, 영문법, 단어, 어휘, 한자, 토익, "
+             "수능, 내신, 자격증, 챕터, chapter, unit, math, algebra, calculus, geometry, physics, chemistry, biology, "
+             "history, geography, economics, psychology, grammar, vocabulary, anatomy, statistics, lesson, spanish, "
+             "english, french, science, 試験, 期末, 期中, 中間, 数学, 數學, 英語, 英语, 物理, 化学, 化學, 生物, 歴史, "
+             "世界史, 日本史, 历史, 歷史, 考试, 考試, 単元, 单元, 文法, 语法, 語法, 単語, 单词, 암기, 漢字, 計算, "
+             "国語, 算数, 理科, 听写, 语文, 실기, 필기, 정보처리기사, 산업기사, 기능사, 공인중개사, 컴활, 토플, 오픽, "
+             "검정고시, 기사 시험, 기본정보, 基本情報, 応用情報, 宅建, 簿記, toeic, toefl, ielts, 英検, 四级, 六级, "
+             "考研, 雅思, 托福, 教资, 公务员考试, 四級, 六級, 多益, gcse, mcat, lsat"},
     {.kinds = anyOf<studyNotes, guide>,
      .names = "",
      .generics = "",
