@@ -11,9 +11,9 @@ namespace {
 
 constexpr Layered words[] = {
     {.kind = DocumentKind::prd,
-     .nouns = "expression de besoins, expression des besoins, exigences produit, note de cadrage, "
-              "fiche projet, brief produit, fiche de cadrage, expression de besoin, cadrage fonctionnel, "
-              "cahier des besoins",
+     .nouns = "expression de besoins, expression des besoins, exigences produit, note de cadrage, fiche projet, "
+              "brief produit, fiche de cadrage, expression de besoin, cadrage fonctionnel, cahier des besoins, "
+              "document d'exigences produit",
      .weak = ""},
     {.kind = DocumentKind::spec,
      .nouns = "cahier des charges, spécification, spécifications, exigences, fiche technique, "
@@ -67,9 +67,8 @@ constexpr Layered words[] = {
      .weak = ""},
     {.kind = DocumentKind::designDoc,
      .nouns = "document de conception, dossier de conception, conception, architecture technique, "
-              "architecture logicielle, dossier d'architecture, document d'architecture, "
-              "schéma d'architecture, décision d'architecture, modèle de données, diagramme de séquence, "
-              "schéma, vue d'ensemble de l'architecture",
+              "architecture logicielle, dossier d'architecture, document d'architecture, décision d'architecture, "
+              "modèle de données, diagramme de séquence, schéma, vue d'ensemble de l'architecture",
      .weak = ""},
     {.kind = DocumentKind::apiDoc,
      .nouns = "documentation api, documentation d'api, documentation de l'api, référence api, "
@@ -85,7 +84,7 @@ constexpr Layered words[] = {
               "ticket d'incident",
      .weak = ""},
     {.kind = DocumentKind::codeReview,
-     .nouns = "revue de code, relecture de code, revue de pr, relecture de la pr",
+     .nouns = "revue de code, relecture de code, revue de pr, relecture de la pr, commentaires de revue",
      .weak = ""},
     {.kind = DocumentKind::postmortem,
      .nouns = "post-mortem, postmortem, rapport d'incident, analyse d'incident, analyse des causes, "
@@ -104,9 +103,8 @@ constexpr Layered words[] = {
               "guide d'utilisation, instructions d'installation",
      .weak = "méthode, démarche, étapes"},
     {.kind = DocumentKind::data,
-     .nouns = "données, jeu de données, statistiques, chiffres clés, indicateurs, tableau de suivi, "
-              "liste des participants, liste des clients, annuaire, base de données, inventaire, registre, "
-              "fichier clients, tableau",
+     .nouns = "données, jeu de données, statistiques, chiffres clés, indicateurs, liste des participants, "
+              "liste des clients, annuaire, base de données, inventaire, registre, fichier clients, tableau",
      .weak = ""},
     {.kind = DocumentKind::prompt,
      .nouns = "prompt, prompts, prompt système, bibliothèque de prompts, instructions pour l'agent, "

@@ -15,7 +15,7 @@ constexpr std::array<Layered, 55> words{{
     {DocumentKind::prd,
      "documento de requisitos del producto, requisitos del producto, requerimientos del producto, "
      "visión del producto, brief de producto, prd, definición de producto, requisitos de producto, "
-     "documento de requisitos de producto, visión de producto",
+     "documento de requisitos de producto, visión de producto, ficha de funcionalidad",
      ""},
     {DocumentKind::spec,
      "especificación, especificaciones, pliego de condiciones, requisitos, requerimientos, "
@@ -45,8 +45,8 @@ constexpr std::array<Layered, 55> words{{
     {DocumentKind::research,
      "investigación, estudio, análisis de mercado, análisis del mercado, análisis de la competencia, "
      "análisis competitivo, análisis comparativo, análisis dafo, comparativa, encuesta, encuestas, "
-     "entrevistas a usuarios, estado del arte, revisión bibliográfica, estudios, "
-     "comparación de precios, sondeo, cuestionario de satisfacción, trabajo de campo",
+     "entrevistas a usuarios, estado del arte, revisión bibliográfica, estudios, comparación de precios, sondeo, "
+     "cuestionario de satisfacción, trabajo de campo, entrevistas con usuarios",
      ""},
     {DocumentKind::retrospective,
      "retrospectiva, lecciones aprendidas, cierre del proyecto, revisión del sprint, "
@@ -85,7 +85,8 @@ constexpr std::array<Layered, 55> words{{
      "reporte de fallo, errores conocidos, error al, informe de error, reporte de bugs, "
      "reporte de fallos, reporte de incidencias, lista de errores, incidencia",
      ""},
-    {DocumentKind::codeReview, "revisión de código, revisión del código, revisión de pull request, auditoría de código",
+    {DocumentKind::codeReview,
+     "revisión de código, revisión del código, revisión de pull request, auditoría de código, comentarios de revisión",
      "revisión"},
     {DocumentKind::postmortem,
      "post mortem, informe de incidente, informe de incidencia, reporte de incidente, "
@@ -133,19 +134,18 @@ constexpr std::array<Layered, 55> words{{
      ""},
     {DocumentKind::newsletter, "boletín, newsletter, newsletters, boletines", ""},
     {DocumentKind::socialPost,
-     "publicación en redes sociales, publicación de instagram, publicación de linkedin, "
-     "post de instagram, post para, hilo de twitter, tuit, publicaciones redes sociales, "
-     "post de linkedin, publicación en instagram, pie de foto, publicación para, publicaciones",
+     "publicación en redes sociales, publicación de instagram, publicación de linkedin, post de instagram, post para, "
+     "hilo de twitter, tuit, post de linkedin, publicación en instagram, pie de foto, publicación para, publicaciones",
      ""},
     {DocumentKind::businessPlan,
      "plan de negocio, plan de negocios, plan de empresa, modelo de negocio, plan de viabilidad", ""},
     {DocumentKind::finance,
-     "presupuesto, factura, cotización, recibo, nómina, estado de cuenta, estado de resultados, "
-     "balance general, cuentas anuales, flujo de caja, plan financiero, informe financiero, "
-     "análisis financiero, informe de gastos, proyecciones financieras, declaración de la renta, "
-     "liquidación, orden de compra, nota de crédito, nota de gastos, balance, cuenta de resultados, "
-     "albarán, extracto bancario, estado financiero, gastos de viaje, estimación de costes, proforma, "
-     "libro de cuentas, estado de cuentas, facturas, presupuestos, gastos",
+     "presupuesto, factura, cotización, recibo, nómina, estado de cuenta, estado de resultados, balance general, "
+     "cuentas anuales, flujo de caja, plan financiero, informe financiero, análisis financiero, informe de gastos, "
+     "proyecciones financieras, declaración de la renta, liquidación, orden de compra, nota de crédito, "
+     "nota de gastos, balance, cuenta de resultados, albarán, extracto bancario, estado financiero, gastos de viaje, "
+     "estimación de costes, proforma, libro de cuentas, estado de cuentas, facturas, presupuestos, gastos, "
+     "hoja de gastos",
      ""},
     {DocumentKind::legal,
      "contrato, acuerdo, acuerdos, convenio, términos y condiciones, condiciones de uso, "
@@ -167,11 +167,10 @@ constexpr std::array<Layered, 55> words{{
      "perfil del puesto, convocatoria de empleo, buscamos, descripción de puesto, anuncio de trabajo",
      ""},
     {DocumentKind::email,
-     "correo electrónico, correo de bienvenida, correo de seguimiento, correo para, correo a, "
-     "email de, email para, borrador de correo, plantilla de correo, respuesta al cliente, "
-     "carta de renuncia, carta de agradecimiento, mensaje para, mensaje de bienvenida, "
-     "carta de reclamación, correo de agradecimiento, carta a, carta de disculpa, correo de disculpa, "
-     "borrador de email, correos",
+     "correo electrónico, correo de bienvenida, correo de seguimiento, correo para, correo a, email de, email para, "
+     "borrador de correo, plantilla de correo, respuesta al cliente, carta de renuncia, carta de agradecimiento, "
+     "mensaje para, mensaje de bienvenida, carta de reclamación, correo de agradecimiento, carta a, "
+     "carta de disculpa, correo de disculpa, borrador de email, correos, correo al",
      "carta, cartas, correo, correos"},
     {DocumentKind::faq,
      "preguntas frecuentes, pregunta frecuente, preguntas y respuestas, preguntas más frecuentes, "
@@ -203,14 +202,13 @@ constexpr std::array<Layered, 55> words{{
      "lecciones, taller de, cuaderno de trabajo",
      ""},
     {DocumentKind::lectureNotes,
-     "apuntes de clase, apuntes del curso, notas de clase, notas del curso, resumen de la clase, "
-     "notas del seminario, apuntes de la clase",
+     "apuntes de clase, apuntes del curso, notas de clase, notas del curso, resumen de la clase, notas del seminario, "
+     "apuntes de la clase, notas de la clase",
      "clase, clases"},
     {DocumentKind::studyNotes,
-     "apuntes, notas de estudio, resumen del tema, resumen para el examen, esquema del tema, "
-     "tarjetas de estudio, mapa conceptual, mapa mental, repaso, guía de estudio, vocabulario, "
-     "resumen tema, ficha de repaso, esquema, chuleta, fichas de repaso, tarjetas de memoria, "
-     "esquemas, resumen para estudiar",
+     "apuntes, notas de estudio, resumen del tema, resumen para el examen, tarjetas de estudio, mapa conceptual, "
+     "mapa mental, repaso, guía de estudio, vocabulario, resumen tema, ficha de repaso, esquema, chuleta, "
+     "fichas de repaso, tarjetas de memoria, esquemas, resumen para estudiar, tarjetas de vocabulario",
      ""},
     {DocumentKind::readingNotes,
      "notas de lectura, apuntes de lectura, ficha de lectura, fichas de lectura, resumen del libro, "
@@ -218,14 +216,12 @@ constexpr std::array<Layered, 55> words{{
      "reporte de lectura, informe de lectura, control de lectura",
      ""},
     {DocumentKind::exercises,
-     "ejercicios, ejercicio, problemas de matemáticas, hoja de ejercicios, cuaderno de ejercicios, "
-     "guía de ejercicios, lista de ejercicios, tarea de matemáticas, deberes, hoja de trabajo, "
-     "banco de preguntas, trabajo práctico, hoja de problemas, tarea, problemas, dictado",
+     "ejercicios, ejercicio, hoja de ejercicios, cuaderno de ejercicios, guía de ejercicios, lista de ejercicios, "
+     "deberes, hoja de trabajo, banco de preguntas, trabajo práctico, hoja de problemas, tarea, problemas, dictado",
      ""},
     {DocumentKind::solutions,
-     "solucionario, solucionarios, ejercicios resueltos, ejercicio resuelto, problemas resueltos, "
-     "examen resuelto, hoja de respuestas, clave de respuestas, respuestas del examen, "
-     "respuestas del cuestionario, soluciones tema, soluciones, respuestas, corrección",
+     "solucionario, solucionarios, ejercicios resueltos, ejercicio resuelto, problemas resueltos, examen resuelto, "
+     "hoja de respuestas, clave de respuestas, respuestas del examen, soluciones, respuestas, corrección",
      "soluciones, respuestas"},
     {DocumentKind::quiz,
      "examen, parcial, cuestionario, cuestionarios, control de matemáticas, prueba de nivel, "
@@ -246,9 +242,8 @@ constexpr std::array<Layered, 55> words{{
     {DocumentKind::journal, "diario, mi diario, entrada de diario, entrada del diario, bitácora, reflexión personal",
      ""},
     {DocumentKind::resume,
-     "currículum, curriculum vitae, hoja de vida, carta de presentación, cartas de presentación, "
-     "carta de motivación, cartas de motivación, perfil profesional, portafolio profesional, mi cv, "
-     "cv de, portafolio, carta de recomendación",
+     "currículum, curriculum vitae, hoja de vida, carta de presentación, cartas de presentación, carta de motivación, "
+     "cartas de motivación, perfil profesional, mi cv, cv de, portafolio, carta de recomendación",
      ""},
     {DocumentKind::travelPlan,
      "plan de viaje, plan de vacaciones, itinerario, ruta de viaje, guía de viaje, programa de viaje, "
