@@ -11,7 +11,7 @@ namespace {
 
 constexpr Base words[] = {
     {.kind = DocumentKind::prd,
-     .names = "需求文档, 需求文件, 产品需求说明, 產品需求",
+     .names = "需求文档, 需求文件, 產品需求, 产品需求说明书",
      .cues = "",
      .weak = "",
      .markers = ""},
@@ -119,8 +119,8 @@ constexpr Base words[] = {
      .weak = "",
      .markers = ""},
     {.kind = DocumentKind::designSystem,
-     .names = "设计规范, 设计系统, 组件库, 品牌手册, 视觉规范, 规范手册, 配色方案, 样式指南, 樣式指南, "
-              "設計系統, 設計規範, 識別手冊, 识别手册, 元件規範",
+     .names = "设计规范, 设计系统, 组件库, 品牌手册, 视觉规范, 配色方案, 样式指南, 樣式指南, 設計系統, 設計規範, "
+              "識別手冊, 识别手册, 元件規範, 组件规范",
      .cues = "",
      .weak = "",
      .markers = ""},
@@ -132,7 +132,7 @@ constexpr Base words[] = {
      .markers = ""},
     {.kind = DocumentKind::sales,
      .names = "销售方案, 话术, 客户案例, 公司介绍, 銷售手冊, 销售资料, 公司简介, 价目表, 产品目录, 价格表, 产品手册, "
-              "产品单页, 产品介绍, 型錄, 公司簡介, 產品目錄, 销售手册",
+              "产品介绍, 型錄, 公司簡介, 產品目錄, 销售手册, 报价方案",
      .cues = "销售, 客户",
      .weak = "",
      .markers = ""},
@@ -252,8 +252,8 @@ constexpr Base words[] = {
      .weak = "自我介绍",
      .markers = ""},
     {.kind = DocumentKind::travelPlan,
-     .names = "旅行计划, 旅游计划, 旅行攻略, 行程, 行程表, 旅游攻略, 行程安排, 行程单, 出行计划, 旅遊規劃, 路线规划, "
-              "旅遊計畫, 旅行計畫, 自由行攻略",
+     .names = "旅行计划, 旅游计划, 旅行攻略, 行程, 行程表, 行程安排, 行程单, 出行计划, 旅遊規劃, 路线规划, 旅遊計畫, "
+              "旅行計畫, 自由行攻略, 游攻略",
      .cues = "旅游",
      .weak = "",
      .markers = ""},
