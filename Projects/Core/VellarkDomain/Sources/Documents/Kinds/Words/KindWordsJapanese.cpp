@@ -54,7 +54,7 @@ constexpr Base words[] = {
      .markers = ""},
     {.kind = DocumentKind::checklist,
      .names = "チェック リスト, やること リスト, タスク リスト, 買い物 リスト, 持ち物 リスト, チェック シート, 点検表, "
-              "確認 リスト, todoリスト, 持ち物, 確認 事項",
+              "確認 リスト, todoリスト, 持ち物, チェック 表",
      .cues = "点検, 持ち物, 準備",
      .weak = "タスク, やること",
      .markers = ""},
