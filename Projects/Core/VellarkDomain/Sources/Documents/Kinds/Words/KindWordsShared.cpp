@@ -183,7 +183,8 @@ constexpr auto rows = std::to_array<Shared>({
              "meetup, inquiry, resignation, rejection, reference, request, payment, shipping, appointment, 의뢰, 추천, "
              "cover, 교수님, 선생님, 퇴사, 입사, 축하, 합격, 거절, 수락, 양해, 안부, 병가, 상사, 동료, 팀원, 학부모, "
              "professor, teacher, boss, parents, team, offer, farewell, birthday, congratulations, thanks, sick leave, "
-             "overdue"},
+             "overdue, 面接, 退職, 挨拶, 日程 調整, 納期, 返品, 教授, 先生, 上司, 保護者, 得意先, 面试, 面試, 离职, "
+             "離職, 请假, 請假, 老师, 老師, 导师, 導師, 催款, 延期"},
     {.kinds = anyOf<studyNotes, quiz, learning>,
      .names = "공부, 복습, 예습, 시험 요약, 중간고사 요약, 기말고사 요약, 시험 노트, 勉強, 復習, 复习, 複習, "
               "플래시카드, 암기 카드, flashcard, フラッシュカード, 闪卡, 단어장, 시험 대비, vocabulary list, "
@@ -308,10 +309,11 @@ constexpr auto rows = std::to_array<Shared>({
               "会紀錄, 會記錄, 會紀錄, 议事录, 議事錄, 朝会 メモ, 座談會記錄, 會議決議, 會議備忘, 晨會記錄, "
               "面談記錄, 週會記錄, 討論紀要",
      .generics = "",
-     .cues = "워크숍, 워크샵, 원온원, 데일리, 싱크, 타운홀, 정례 회의, 팀 미팅, 팀 회의, 임원 회의, "
-             "전체 회의, 정기 회의, 이사회, 면접, workshop, town hall, all hands, check in, offsite, huddle, "
-             "catch up, debrief, ワークショップ, 朝会, 定例, 研讨会, 研討會, 例会, 周会, committee, 협의회, "
-             "위원회, 座談会, 委員会, 座谈会, 例會, 週會, 座談會, 委員會"},
+     .cues = "워크숍, 워크샵, 원온원, 데일리, 싱크, 타운홀, 정례 회의, 팀 미팅, 팀 회의, 임원 회의, 전체 회의, "
+             "정기 회의, 이사회, 면접, workshop, town hall, all hands, check in, offsite, huddle, catch up, debrief, "
+             "ワークショップ, 朝会, 定例, 研讨会, 研討會, 例会, 周会, committee, 협의회, 위원회, 座談会, 委員会, "
+             "座谈会, 例會, 週會, 座談會, 委員會, 保護者会, 総会, 理事会, 役員会, 懇談会, 職員会議, 説明会, 총회, "
+             "학부모회, 반상회, 대책 회의, 董事会, 董事會, 股东会, 股東會, 班会, 班會, 家长会, 家長會, 理事會"},
     {.kinds = anyOf<blogPost, socialPost, essay>,
      .names = "포스트, 게시글, 스레드, thread, スレッド, 후기, 체험기, 사용기, 방문기, 기고, post, write up, "
               "writeup, 記事, 文章, 帖子, 体験記, 기사, 아티클, 포스팅, 블로그 포스트, 体験談, 博文, listicle, "
