@@ -25,8 +25,8 @@ constexpr auto rows = std::to_array<Base>({
      .weak = "",
      .markers = "out of scope, non goals, success metrics, goals, open question"},
     {.kind = spec,
-     .names = "specification, requirement, functional spec, technical spec, tech spec, product spec, "
-              "data sheet, service spec, system spec, design spec",
+     .names = "specification, requirement, functional spec, technical spec, tech spec, product spec, data sheet, "
+              "system spec, design spec, spec sheet",
      .cues = "feature, functional, format",
      .weak = "spec, specs",
      .markers = "functional requirements, non functional requirements, nfr, fr"},
@@ -138,8 +138,8 @@ constexpr auto rows = std::to_array<Base>({
      .weak = "",
      .markers = "typography"},
     {.kind = marketingCopy,
-     .names = "ad copy, marketing copy, landing page copy, website copy, email copy, tagline, "
-              "product description, brochure, flyer, value proposition",
+     .names = "ad copy, marketing copy, landing page copy, website copy, email copy, tagline, product description, "
+              "brochure, flyer",
      .cues = "ad, marketing, campaign",
      .weak = "",
      .markers = ""},
@@ -161,7 +161,7 @@ constexpr auto rows = std::to_array<Base>({
      .weak = "",
      .markers = "unsubscribe, in this issue, this issue, read more"},
     {.kind = socialPost,
-     .names = "social post, tweet, twitter thread, caption, linkedin posts",
+     .names = "social post, tweet, twitter thread, caption, linkedin posts, facebook post",
      .cues = "social media, linkedin, instagram, twitter",
      .weak = "",
      .markers = ""},
