@@ -13,6 +13,8 @@ using Update = ConversationTodoUpdate;
 using Todo = ConversationTodo;
 
 const auto scout = ConversationAuthor::subagent("scout");
+const auto nameless = ConversationAuthor::subagent("");
+const auto agent = ConversationAuthor::main();
 
 std::string ids(const std::vector<Entry>& entries) {
     std::string result;
@@ -69,14 +71,14 @@ TEST(ConversationTaskTests, entriesHaveOwners) {
         {"delegation to nobody", {.kind = Entry::Delegation{""}, .author = scout}, ""},
         {"subagent's message", {.kind = Entry::AgentMessage{"A"}, .author = scout, .topic = "T"}, "T"},
         {"without topic", {.kind = Entry::AgentMessage{"A"}, .author = scout}, "scout"},
-        {"nameless", {.kind = Entry::AgentMessage{"A"}, .author = ConversationAuthor::subagent("")}, ""},
-        {"main agent's message", {.kind = Entry::AgentMessage{"A"}, .topic = "T"}, "A"},
-        {"to main", {.kind = Entry::AgentMessage{"main"}, .topic = "T"}, "T"},
-        {"to nobody", {.kind = Entry::AgentMessage{""}}, std::nullopt},
-        {"turn with topic", {.author = ConversationAuthor::main(), .topic = ""}, ""},
+        {"nameless", {.kind = Entry::AgentMessage{"A"}, .author = nameless}, ""},
+        {"main agent's message", {.kind = Entry::AgentMessage{"A"}, .author = agent, .topic = "T"}, "A"},
+        {"to main", {.kind = Entry::AgentMessage{"main"}, .author = agent, .topic = "T"}, "T"},
+        {"to nobody", {.kind = Entry::AgentMessage{""}, .author = agent}, std::nullopt},
+        {"turn with topic", {.author = agent, .topic = ""}, ""},
         {"subagent's turn", {.author = scout}, "scout"},
-        {"nameless turn", {.author = ConversationAuthor::subagent("")}, std::nullopt},
-        {"user's turn", {}, std::nullopt},
+        {"nameless turn", {.author = nameless}, std::nullopt},
+        {"user's turn", Entry(), std::nullopt},
     };
     for (const Case& row : cases)
         EXPECT_EQ(Task::owner(row.entry), row.owner) << row.name;
@@ -130,7 +132,7 @@ TEST(ConversationTaskTests, aRunDecidesTheOutcome) {
     const auto outcome = [](ConversationRun run, bool reports) {
         run.name = "scout";
         run.delegationID = "call";
-        std::vector<Entry> feed = {{.id = "1", .kind = Entry::Delegation{"scout"}, .callID = "call"}};
+        std::vector<Entry> feed = {{.id = "1", .kind = Entry::Delegation{"scout"}, .author = agent, .callID = "call"}};
         if (reports) feed.push_back({.id = "2", .kind = Entry::Report(), .author = scout});
         return Task::tasks(feed, std::vector{run}).at(0).outcome;
     };
@@ -144,14 +146,14 @@ TEST(ConversationTaskTests, aRunDecidesTheOutcome) {
 
 TEST(ConversationTaskTests, handOversAndMessagesStandWhereTheyAreLookedFor) {
     std::vector<Entry> feed = {
-        {.id = "1", .kind = Entry::Delegation{"scout"}},
+        {.id = "1", .kind = Entry::Delegation{"scout"}, .author = agent},
         {.id = "2", .kind = Entry::Delegation{"child"}, .author = scout, .todos = {{Update::Created{{}, "x"}}}},
-        {.id = "3", .kind = Entry::Delegation{"sibling"}},
+        {.id = "3", .kind = Entry::Delegation{"sibling"}, .author = agent},
         {.id = "4", .kind = Entry::AgentMessage{"child"}, .author = scout},
         {.id = "5", .kind = Entry::AgentMessage{"sibling"}, .author = scout},
         {.id = "6", .author = ConversationAuthor::subagent("child"), .topic = "child"},
-        {.id = "7", .kind = Entry::Delegation{"child"}},  // a retry
-        {.id = "8", .author = ConversationAuthor::main()},
+        {.id = "7", .kind = Entry::Delegation{"child"}, .author = agent},  // a retry
+        {.id = "8", .author = agent},
     };
     const auto tasks = Task::tasks(feed, {});
     ASSERT_EQ(tasks.size(), 4U);
@@ -175,7 +177,7 @@ TEST(ConversationTaskTests, deepChainsAreBuilt) {
     std::vector<ConversationRun> runs;
     for (std::size_t index = 0; index < depth; ++index) {
         const std::string number = std::to_string(index);
-        feed.push_back({.id = number, .kind = Entry::Delegation{"A"}, .callID = number});
+        feed.push_back({.id = number, .kind = Entry::Delegation{"A"}, .author = agent, .callID = number});
         runs.push_back({.name = "A", .threadID = number, .delegationID = number});
         if (index > 0) runs.back().parentThreadID = std::to_string(index - 1);
     }
